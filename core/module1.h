@@ -1,0 +1,28 @@
+#pragma once
+// What outlives the table window or is shared with the small windows.
+
+#include <string>
+
+#include "core/carta.h"
+
+namespace corvina {
+
+inline constexpr int16 kPontosDaPartida = 4; // hands that win a match; fixed, never a setting
+
+struct Module1 {
+    int16 pontosJog = 0, pontosMac = 0;
+    std::string nomeJogador;
+    int16 assistido = 0;
+    bool nomeCancelado = false;
+    bool respostaSimNao = false;
+    bool soTrincas = false;
+    int16 qtdDescarte = 0;
+    int16 tipoCarta = 0;
+    int16 velocidade = 0;
+    bool tocarSom = false;
+    bool tocarMusica = false;
+    bool animarCartas = false;
+    bool avisoOrdenar = false;
+};
+
+} // namespace corvina

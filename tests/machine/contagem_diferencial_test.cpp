@@ -1,0 +1,112 @@
+// The fast count against the try-by-try walk, on many random hands: same count, same group
+// list, same free slots, the hand left alone.
+
+#include <gtest/gtest.h>
+
+#include <random>
+#include <vector>
+
+#include "machine/contagem.h"
+#include "machine/contagem_literal.h"
+
+namespace corvina {
+namespace {
+
+// Draws a hand from two packs, or from a small corner of them, where trincas abound.
+class Sorteador {
+  public:
+    explicit Sorteador(unsigned semente) : gerador_(semente) {}
+
+    std::vector<Carta> mao(int qtd, int valores, int naipes) {
+        std::vector<Carta> monte;
+        for (int copia = 0; copia < 2; ++copia)
+            for (int n = 1; n <= naipes; ++n)
+                for (int v = 1; v <= valores; ++v)
+                    monte.push_back({static_cast<int16>(valorBase_ + v), static_cast<int16>(n)});
+        std::shuffle(monte.begin(), monte.end(), gerador_);
+        monte.resize(qtd);
+        return monte;
+    }
+    void base(int valorBase) { valorBase_ = valorBase; }
+    std::mt19937& gerador() { return gerador_; }
+
+  private:
+    std::mt19937 gerador_;
+    int valorBase_ = 0;
+};
+
+void confere(const std::vector<Carta>& cartas, Lado lado, bool curta) {
+    Mesa rapida;
+    Mao mao = maoDe(rapida, lado);
+    mao.qtd = static_cast<int16>(cartas.size());
+    for (std::size_t i = 0; i < cartas.size(); ++i)
+        poeCarta(mao.valor, mao.naipe, static_cast<int>(i + 1), cartas[i]);
+    Mesa literal = rapida;
+
+    const int16 a = TemQuantosGrupos(rapida, lado, curta);
+    const int16 b = TemQuantosGruposLiteral(literal, lado, curta);
+    const auto descreve = [&] {
+        return escreveCartas(cartas) + (curta ? " (short)" : " (full)") +
+               std::string(lado == Lado::Jog ? " Jog" : " Mac");
+    };
+    ASSERT_EQ(a, b) << descreve();
+    ASSERT_EQ(rapida.qtdGrupo, literal.qtdGrupo) << descreve();
+    ASSERT_EQ(rapida.grupoValor, literal.grupoValor) << descreve();
+    ASSERT_EQ(rapida.grupoNaipe, literal.grupoNaipe) << descreve();
+    ASSERT_EQ(rapida.cartaLivre, literal.cartaLivre) << descreve();
+    ASSERT_EQ(rapida.jogValor, literal.jogValor) << descreve();
+    ASSERT_EQ(rapida.jogNaipe, literal.jogNaipe) << descreve();
+    ASSERT_EQ(rapida.macValor, literal.macValor) << descreve();
+    ASSERT_EQ(rapida.macNaipe, literal.macNaipe) << descreve();
+}
+
+TEST(ContagemDiferencial, AgreesWithTheLiteralCountOnRandomHands) {
+    Sorteador s(20261123);
+    constexpr int kMaos = 100000;
+    for (int i = 0; i < kMaos; ++i) {
+        const int qtd = 9 + i % 2;
+        const auto cartas = s.mao(qtd, kValores, kNaipes);
+        const Lado lado = i % 4 < 2 ? Lado::Jog : Lado::Mac;
+        confere(cartas, lado, false);
+        confere(cartas, lado, true);
+        if (HasFatalFailure()) return;
+    }
+}
+
+TEST(ContagemDiferencial, AgreesOnHandsCrowdedWithTrincas) {
+    Sorteador s(42);
+    std::uniform_int_distribution<int> valores(3, 6), naipes(2, 4), base(0, 7);
+    for (int i = 0; i < 50000; ++i) {
+        const int nv = valores(s.gerador()), nn = naipes(s.gerador());
+        s.base(std::min(base(s.gerador()), kValores - nv));
+        const int qtd = std::min(9 + i % 2, 2 * nv * nn);
+        const auto cartas = s.mao(qtd, nv, nn);
+        confere(cartas, Lado::Jog, i % 2 == 0);
+        if (HasFatalFailure()) return;
+    }
+}
+
+TEST(ContagemDiferencial, AgreesOnHandsThatWrapAroundTheAce) {
+    // Kings, queens, aces and twos of two suits: every wrapped meld in play.
+    Sorteador s(7);
+    const std::vector<Carta> canto = *lerCartas("12/1 13/1 1/1 2/1 11/1 3/1 12/4 13/4 1/4 2/4 11/4 "
+                                                "3/4 12/1 13/1 1/1 2/1 12/4 13/4 1/4 2/4");
+    for (int i = 0; i < 30000; ++i) {
+        auto cartas = canto;
+        std::shuffle(cartas.begin(), cartas.end(), s.gerador());
+        cartas.resize(9 + i % 2);
+        confere(cartas, Lado::Jog, i % 3 == 0);
+        if (HasFatalFailure()) return;
+    }
+}
+
+TEST(ContagemDiferencial, AgreesOnHandsNoDealCanMake) {
+    // Three copies of a card, or fewer than three cards: the fast count must still agree.
+    for (const char* texto : {"5/1 5/1 5/1 6/1 7/1 8/2 8/3 8/4 1/1", "5/1 6/1", "1/1 2/1 3/1"}) {
+        confere(*lerCartas(texto), Lado::Jog, false);
+        confere(*lerCartas(texto), Lado::Jog, true);
+    }
+}
+
+} // namespace
+} // namespace corvina

@@ -1,0 +1,17 @@
+# Fails when a source file under the given folders includes a Qt header.
+# Usage: cmake -DRAIZ=<source dir> -DPASTAS=core,machine -P checa_sem_qt.cmake
+string(REPLACE "," ";" PASTAS "${PASTAS}")
+set(achados "")
+foreach(pasta IN LISTS PASTAS)
+  file(GLOB_RECURSE fontes "${RAIZ}/${pasta}/*.h" "${RAIZ}/${pasta}/*.cpp")
+  foreach(fonte IN LISTS fontes)
+    file(STRINGS "${fonte}" linhas REGEX "^[ \t]*#[ \t]*include[ \t]*[<\"](Q[A-Za-z]|qt)")
+    if(linhas)
+      list(APPEND achados "${fonte}: ${linhas}")
+    endif()
+  endforeach()
+endforeach()
+if(achados)
+  string(REPLACE ";" "\n" achados "${achados}")
+  message(FATAL_ERROR "Qt is included where only the standard library may be:\n${achados}")
+endif()
