@@ -8,13 +8,18 @@
 #include "machine/contagem_literal.h"
 #include "machine/vale.h"
 
-// Every try leaves the slots in an order fixed by the cards alone: a total order on the 52
-// kinds of card, with the two copies of a card side by side. So the fifteen tries are only
-// nine distinct orders, and each can be laid out from a bit mask of the kinds in the hand.
-// The greedy search of one order takes, each time, the first free trinca (pair) in slot
-// order; since a trinca is found among a handful of candidate kinds, it is the smallest slot
-// triple among the candidates whose kinds still have a free copy. The candidates are found
-// once per hand from the masks.
+// Why this is fast and still the same count:
+// - Every try leaves the slots in an order fixed by the cards alone, a total order on the 52
+//   kinds of card with the two copies of a card side by side. The fifteen tries are thus nine
+//   distinct orders, each laid out from bit masks of the kinds held.
+// - A greedy search takes, each time, the first free trinca (then pair) in slot order: the
+//   smallest slot triple among the candidate melds whose kinds still have a free copy. The
+//   candidates are found once per hand from the masks.
+// - A candidate that shares no kind with any other is taken in every order, as often as its
+//   kinds have copies. Only the others, the contested ones, are searched order by order, and
+//   two orders that put the contested kinds in the same sequence find the same melds.
+// - The group list and the free slots are those of the last order searched; that order is
+//   searched once more in full to leave them.
 
 namespace corvina {
 
@@ -47,15 +52,16 @@ struct Ordem {
 inline constexpr std::array<Ordem, 9> kOrdens{{{Familia::NaipeSobe, 2},
                                                {Familia::NaipeSobe, 3},
                                                {Familia::NaipeSobe, 4},
-                                               {Familia::ValorSobe, 0},
+                                               {Familia::ValorSobe, 1},
                                                {Familia::NaipeDesce, 1},
                                                {Familia::NaipeDesce, 2},
                                                {Familia::NaipeDesce, 3},
                                                {Familia::NaipeDesce, 4},
-                                               {Familia::ValorDesce, 0}}};
+                                               {Familia::ValorDesce, 1}}};
 inline constexpr int kOrdensCurtas = 4;
+inline constexpr std::size_t kOrdemValorSobe = 3, kOrdemNaipeDesce = 4, kOrdemValorDesce = 8;
 
-// Position of a kind in an order; the masks of a hand are built from it.
+// Where a kind stands in an order.
 constexpr int chave(Ordem o, int tipo) {
     const int v = valorDo(tipo), n = naipeDo(tipo);
     const int rank = (n - o.pinta + kNaipes) % kNaipes;
@@ -98,16 +104,32 @@ struct Par {
     bool soNestaOrdem; // a wrapped dupla separada: only with a before b
 };
 
-// What one hand offers, found once from its cards.
-struct Candidatos {
-    Mascara um = 0;   // kinds held
-    Mascara dois = 0; // kinds held twice
-    int qtdTipos = 0;
-    std::array<std::uint8_t, kMaxCartas> tipos{};
+// Candidate melds, filled from the front and read only as far as filled.
+struct Listas {
     int qtdTrios = 0, qtdDuplas = 0, qtdSeparadas = 0;
-    std::array<Trio, 120> trios{};
-    std::array<Par, 45> duplas{};
-    std::array<Par, 45> separadas{};
+    std::array<Trio, 120> trios;
+    std::array<Par, 45> duplas;
+    std::array<Par, 45> separadas;
+};
+
+// The masks of the hand in the four families, from which every order is laid out.
+struct Mascaras {
+    Mascara sobe[2]{}; // by suit from hearts, value rising: kinds held, kinds held twice
+    Mascara desce[2]{};
+    Mascara valor[2]{}; // by value rising, suits 4, 1, 2, 3
+    Mascara valorDesce[2]{};
+};
+
+struct Mao10 {
+    Mascara um = 0, dois = 0; // kinds held, kinds held twice
+    Mascaras m;
+    Listas todas;
+    Listas disputadas;
+    int16 fixoTrincas = 0, fixoPares = 0; // points of the uncontested candidates
+    Mascara envolvidos = 0;               // kinds of the contested candidates
+    int qtdEnvolvidos = 0;
+    std::array<std::uint8_t, kMaxCartas> listaEnvolvidos;
+    Mascaras envolvidosPorFamilia; // the same kinds, as the masks of the families
 };
 
 struct Busca {
@@ -117,68 +139,112 @@ struct Busca {
     std::array<std::uint8_t, 9> grupo{}; // kinds, in the order the search took them
 };
 
-// Masks of the suits per value and the values per suit, from the kinds held.
-std::uint32_t naipesDoValor(Mascara um, int valor) {
-    std::uint32_t s = 0;
-    for (int n = 1; n <= kNaipes; ++n)
-        if (um >> tipoDe(valor, n) & 1) s |= 1u << (n - 1);
-    return s;
-}
-
-std::uint32_t valoresDoNaipe(Mascara um, int naipe) {
-    return static_cast<std::uint32_t>(um >> ((naipe - 1) * kValores)) & ((1u << kValores) - 1);
-}
-
-void achaCandidatos(Candidatos& c) {
-    for (Mascara resto = c.um; resto; resto &= resto - 1)
-        c.tipos[c.qtdTipos++] = static_cast<std::uint8_t>(std::countr_zero(resto));
-
+void achaCandidatos(Mao10& h) {
+    Listas& l = h.todas;
     auto trio = [&](int a, int b, int d) {
-        c.trios[c.qtdTrios++] = {static_cast<std::uint8_t>(a), static_cast<std::uint8_t>(b),
+        l.trios[l.qtdTrios++] = {static_cast<std::uint8_t>(a), static_cast<std::uint8_t>(b),
                                  static_cast<std::uint8_t>(d)};
     };
-    auto par = [&](auto& lista, int& qtd, int a, int b, bool soNestaOrdem) {
-        lista[qtd++] = {static_cast<std::uint8_t>(a), static_cast<std::uint8_t>(b), soNestaOrdem};
+    auto dupla = [&](int a, int b) {
+        l.duplas[l.qtdDuplas++] = {static_cast<std::uint8_t>(a), static_cast<std::uint8_t>(b),
+                                   false};
+    };
+    auto separada = [&](int a, int b, bool soNestaOrdem) {
+        l.separadas[l.qtdSeparadas++] = {static_cast<std::uint8_t>(a), static_cast<std::uint8_t>(b),
+                                         soNestaOrdem};
     };
 
-    for (int v = 1; v <= kValores; ++v) {
-        const std::uint32_t s = naipesDoValor(c.um, v);
-        if (std::popcount(s) < 2) continue;
-        for (int n1 = 1; n1 <= kNaipes; ++n1) {
-            if (!(s >> (n1 - 1) & 1)) continue;
-            for (int n2 = n1 + 1; n2 <= kNaipes; ++n2) {
-                if (!(s >> (n2 - 1) & 1)) continue;
-                par(c.duplas, c.qtdDuplas, tipoDe(v, n1), tipoDe(v, n2), false);
-                for (int n3 = n2 + 1; n3 <= kNaipes; ++n3)
-                    if (s >> (n3 - 1) & 1) trio(tipoDe(v, n1), tipoDe(v, n2), tipoDe(v, n3));
+    // Suits held per value: four bits a value in the value-rising mask, suit 4 first.
+    const auto naipeDoBit = [](int r) { return r == 0 ? kNaipes : r; };
+    for (Mascara resto = h.m.valor[0]; resto;) {
+        const int v = std::countr_zero(resto) / kNaipes + 1;
+        const auto s = static_cast<unsigned>(resto >> ((v - 1) * kNaipes)) & 0xFu;
+        resto &= ~(Mascara{0xF} << ((v - 1) * kNaipes));
+        if ((s & (s - 1)) == 0) continue; // fewer than two suits
+        for (int r1 = 0; r1 < kNaipes; ++r1) {
+            if (!(s >> r1 & 1)) continue;
+            for (int r2 = r1 + 1; r2 < kNaipes; ++r2) {
+                if (!(s >> r2 & 1)) continue;
+                const int a = tipoDe(v, naipeDoBit(r1)), b = tipoDe(v, naipeDoBit(r2));
+                dupla(a, b);
+                for (int r3 = r2 + 1; r3 < kNaipes; ++r3)
+                    if (s >> r3 & 1) trio(a, b, tipoDe(v, naipeDoBit(r3)));
             }
         }
     }
-    constexpr int kBitAs = kAs - 1, kBitRei = kRei - 1;
+    constexpr int kBitAs = kAs - 1, kBitRei = kRei - 1, kBitDama = kRei - 2, kBitDois = 1;
     for (int n = 1; n <= kNaipes; ++n) {
-        const std::uint32_t r = valoresDoNaipe(c.um, n);
-        if (std::popcount(r) < 2) continue;
         const int base = (n - 1) * kValores;
+        const auto r = static_cast<std::uint32_t>(h.um >> base) & ((1u << kValores) - 1);
+        if ((r & (r - 1)) == 0) continue; // fewer than two values
         for (std::uint32_t m = r & (r >> 1) & (r >> 2); m; m &= m - 1) {
             const int b = std::countr_zero(m);
             trio(base + b, base + b + 1, base + b + 2);
         }
-        if ((r >> kBitRei & 1) && (r >> (kBitRei - 1) & 1) && (r >> kBitAs & 1))
-            trio(base + kBitRei - 1, base + kBitRei, base + kBitAs);
+        if ((r >> kBitRei & 1) && (r >> kBitDama & 1) && (r >> kBitAs & 1))
+            trio(base + kBitDama, base + kBitRei, base + kBitAs);
         for (std::uint32_t m = r & (r >> 1); m; m &= m - 1) {
             const int b = std::countr_zero(m);
-            par(c.duplas, c.qtdDuplas, base + b, base + b + 1, false);
+            dupla(base + b, base + b + 1);
         }
-        if ((r >> kBitRei & 1) && (r >> kBitAs & 1))
-            par(c.duplas, c.qtdDuplas, base + kBitAs, base + kBitRei, false);
+        if ((r >> kBitRei & 1) && (r >> kBitAs & 1)) dupla(base + kBitAs, base + kBitRei);
         for (std::uint32_t m = r & (r >> 2); m; m &= m - 1) {
             const int b = std::countr_zero(m);
-            par(c.separadas, c.qtdSeparadas, base + b, base + b + 2, false);
+            separada(base + b, base + b + 2, false);
         }
-        if ((r >> kBitRei & 1) && (r >> 1 & 1)) // 13 before 2
-            par(c.separadas, c.qtdSeparadas, base + kBitRei, base + 1, true);
-        if ((r >> kBitAs & 1) && (r >> (kBitRei - 1) & 1)) // 1 before 12
-            par(c.separadas, c.qtdSeparadas, base + kBitAs, base + kBitRei - 1, true);
+        if ((r >> kBitRei & 1) && (r >> kBitDois & 1))
+            separada(base + kBitRei, base + kBitDois, true);
+        if ((r >> kBitAs & 1) && (r >> kBitDama & 1))
+            separada(base + kBitAs, base + kBitDama, true);
+    }
+}
+
+// Splits the candidates into those every order takes alike and those the order decides.
+void separaDisputadas(Mao10& h) {
+    std::array<std::uint8_t, kTipos> usos{};
+    const Listas& l = h.todas;
+    for (int i = 0; i < l.qtdTrios; ++i)
+        ++usos[l.trios[i].a], ++usos[l.trios[i].b], ++usos[l.trios[i].c];
+    for (int i = 0; i < l.qtdDuplas; ++i) ++usos[l.duplas[i].a], ++usos[l.duplas[i].b];
+    for (int i = 0; i < l.qtdSeparadas; ++i) ++usos[l.separadas[i].a], ++usos[l.separadas[i].b];
+    const auto copias = [&](int t) { return 1 + static_cast<int>(h.dois >> t & 1); };
+    const auto envolve = [&](int t) { h.envolvidos |= Mascara{1} << t; };
+
+    Listas& d = h.disputadas;
+    for (int i = 0; i < l.qtdTrios; ++i) {
+        const Trio& t = l.trios[i];
+        if (usos[t.a] == 1 && usos[t.b] == 1 && usos[t.c] == 1) {
+            h.fixoTrincas = static_cast<int16>(
+                h.fixoTrincas + kPontosTrinca * std::min({copias(t.a), copias(t.b), copias(t.c)}));
+            continue;
+        }
+        d.trios[d.qtdTrios++] = t;
+        envolve(t.a), envolve(t.b), envolve(t.c);
+    }
+    const auto reparte = [&](const std::array<Par, 45>& de, int qtd, std::array<Par, 45>& para,
+                             int& qtdPara, int16 valor) {
+        for (int i = 0; i < qtd; ++i) {
+            const Par& p = de[i];
+            if (!p.soNestaOrdem && usos[p.a] == 1 && usos[p.b] == 1) {
+                h.fixoPares =
+                    static_cast<int16>(h.fixoPares + valor * std::min(copias(p.a), copias(p.b)));
+                continue;
+            }
+            para[qtdPara++] = p;
+            envolve(p.a), envolve(p.b);
+        }
+    };
+    reparte(l.duplas, l.qtdDuplas, d.duplas, d.qtdDuplas, kPontosDupla);
+    reparte(l.separadas, l.qtdSeparadas, d.separadas, d.qtdSeparadas, kPontosDuplaSeparada);
+
+    for (Mascara resto = h.envolvidos; resto; resto &= resto - 1) {
+        const int t = std::countr_zero(resto);
+        h.listaEnvolvidos[h.qtdEnvolvidos++] = static_cast<std::uint8_t>(t);
+        Mascaras& e = h.envolvidosPorFamilia;
+        e.sobe[0] |= Mascara{1} << t;
+        e.desce[0] |= Mascara{1} << kTabelas.chaveDe[kOrdemNaipeDesce][t];
+        e.valor[0] |= Mascara{1} << kTabelas.chaveDe[kOrdemValorSobe][t];
+        e.valorDesce[0] |= Mascara{1} << kTabelas.chaveDe[kOrdemValorDesce][t];
     }
 }
 
@@ -188,28 +254,29 @@ Mascara giraBlocos(Mascara m, int blocos) {
     return ((m >> desloca) | (m << (kTipos - desloca))) & kTodosTipos;
 }
 
-// Lays the hand out in one order: the slot (from 0) of the first copy of each kind held.
-void posicoes(const Candidatos& c, const Mascara (&base)[2][2], std::size_t o,
-              std::array<std::uint8_t, kTipos>& pos) {
-    const Ordem ordem = kOrdens[o];
-    Mascara um, dois;
+// The masks of one family turned to an order: block rotation for the suit-first families.
+const Mascara* daFamilia(const Mascaras& m, Ordem ordem, int& giro) {
+    giro = 0;
     switch (ordem.familia) {
     case Familia::NaipeSobe:
-    case Familia::NaipeDesce: {
-        const int f = ordem.familia == Familia::NaipeSobe ? 0 : 1;
-        um = giraBlocos(base[f][0], ordem.pinta - 1);
-        dois = giraBlocos(base[f][1], ordem.pinta - 1);
-        break;
+        giro = ordem.pinta - 1;
+        return m.sobe;
+    case Familia::NaipeDesce:
+        giro = ordem.pinta - 1;
+        return m.desce;
+    case Familia::ValorSobe:
+        return m.valor;
+    case Familia::ValorDesce:
+        return m.valorDesce;
     }
-    default: {
-        um = dois = 0;
-        for (int i = 0; i < c.qtdTipos; ++i) {
-            const Mascara bit = Mascara{1} << kTabelas.chaveDe[o][c.tipos[i]];
-            um |= bit;
-            if (c.dois >> c.tipos[i] & 1) dois |= bit;
-        }
-    }
-    }
+    return m.sobe;
+}
+
+// Lays the hand out in one order: the slot (from 0) of the first copy of each kind held.
+void posicoes(const Mao10& h, std::size_t o, std::array<std::uint8_t, kTipos>& pos) {
+    int giro = 0;
+    const Mascara* par = daFamilia(h.m, kOrdens[o], giro);
+    const Mascara um = giraBlocos(par[0], giro), dois = giraBlocos(par[1], giro);
     int p = 0;
     for (Mascara resto = um; resto; resto &= resto - 1) {
         const int k = std::countr_zero(resto);
@@ -218,23 +285,41 @@ void posicoes(const Candidatos& c, const Mascara (&base)[2][2], std::size_t o,
     }
 }
 
+// The slots of the contested kinds only, and their sequence, which alone decides what they
+// give: the rank of each among them, four bits each.
+std::uint64_t posicoesDisputadas(const Mao10& h, std::size_t o,
+                                 std::array<std::uint8_t, kTipos>& pos) {
+    int giro = 0;
+    const Mascara* par = daFamilia(h.m, kOrdens[o], giro);
+    const Mascara um = giraBlocos(par[0], giro), dois = giraBlocos(par[1], giro);
+    const Mascara env = giraBlocos(daFamilia(h.envolvidosPorFamilia, kOrdens[o], giro)[0], giro);
+    std::uint64_t assinatura = 0;
+    for (int i = 0; i < h.qtdEnvolvidos; ++i) {
+        const int t = h.listaEnvolvidos[i];
+        const Mascara antes = (Mascara{1} << kTabelas.chaveDe[o][t]) - 1;
+        pos[t] = static_cast<std::uint8_t>(std::popcount(um & antes) + std::popcount(dois & antes));
+        assinatura |= static_cast<std::uint64_t>(std::popcount(env & antes)) << (4 * i);
+    }
+    return assinatura;
+}
+
 struct Procura {
-    const Candidatos& c;
+    const Mascara dois;
     const std::array<std::uint8_t, kTipos>& pos;
     std::uint16_t usadas = 0;
 
     int livre(int tipo) const {
         const int p = pos[tipo];
         if (!(usadas >> p & 1)) return p;
-        if ((c.dois >> tipo & 1) && !(usadas >> (p + 1) & 1)) return p + 1;
+        if ((dois >> tipo & 1) && !(usadas >> (p + 1) & 1)) return p + 1;
         return kNenhuma;
     }
 
-    template <std::size_t N>
-    int16 tomaPares(const std::array<Par, N>& lista, int qtd, int16 valor) {
+    int16 tomaPares(const std::array<Par, 45>& lista, int qtd, int16 valor) {
+        constexpr int kNada = 1 << 8;
         int16 total = 0;
         for (;;) {
-            int melhor = 1 << 8, x = 0, y = 0;
+            int melhor = kNada, x = 0, y = 0;
             for (int i = 0; i < qtd; ++i) {
                 const Par& par = lista[i];
                 if (par.soNestaOrdem && pos[par.a] > pos[par.b]) continue;
@@ -244,19 +329,19 @@ struct Procura {
                 const int codigo = pa << 4 | pb;
                 if (codigo < melhor) melhor = codigo, x = pa, y = pb;
             }
-            if (melhor == 1 << 8) return total;
+            if (melhor == kNada) return total;
             usadas = static_cast<std::uint16_t>(usadas | 1u << x | 1u << y);
             total = static_cast<int16>(total + valor);
         }
     }
 
-    void procuraTrincas(Busca& b) {
+    void tomaTrincas(const Listas& l, Busca& b) {
+        constexpr int kNada = 1 << 12;
         for (;;) {
-            int melhor = 1 << 12;
-            std::array<int, 3> casas{};
-            std::array<std::uint8_t, 3> tipos{};
-            for (int i = 0; i < c.qtdTrios; ++i) {
-                const Trio& t = c.trios[i];
+            int melhor = kNada;
+            std::array<std::pair<int, std::uint8_t>, 3> achado{};
+            for (int i = 0; i < l.qtdTrios; ++i) {
+                const Trio& t = l.trios[i];
                 std::array<std::pair<int, std::uint8_t>, 3> v{
                     {{livre(t.a), t.a}, {livre(t.b), t.b}, {livre(t.c), t.c}}};
                 if (v[0].first == kNenhuma || v[1].first == kNenhuma || v[2].first == kNenhuma)
@@ -265,32 +350,32 @@ struct Procura {
                 if (v[1].first > v[2].first) std::swap(v[1], v[2]);
                 if (v[0].first > v[1].first) std::swap(v[0], v[1]);
                 const int codigo = v[0].first << 8 | v[1].first << 4 | v[2].first;
-                if (codigo >= melhor) continue;
-                melhor = codigo;
-                for (int k = 0; k < 3; ++k) casas[k] = v[k].first, tipos[k] = v[k].second;
+                if (codigo < melhor) melhor = codigo, achado = v;
             }
-            if (melhor == 1 << 12) return;
-            for (int k = 0; k < 3; ++k) {
-                usadas = static_cast<std::uint16_t>(usadas | 1u << casas[k]);
-                b.grupo[b.qtdGrupo++] = tipos[k];
+            if (melhor == kNada) return;
+            for (const auto& [casa, tipo] : achado) {
+                usadas = static_cast<std::uint16_t>(usadas | 1u << casa);
+                b.grupo[b.qtdGrupo++] = tipo;
             }
             b.pontos = static_cast<int16>(b.pontos + kPontosTrinca);
         }
     }
-};
 
-Busca buscaNaOrdem(const Candidatos& c, const std::array<std::uint8_t, kTipos>& pos) {
-    Busca b;
-    Procura p{c, pos};
-    p.procuraTrincas(b);
-    if (b.pontos != kPontosVitoria) {
-        b.pontos = static_cast<int16>(b.pontos + p.tomaPares(c.duplas, c.qtdDuplas, kPontosDupla));
-        b.pontos = static_cast<int16>(
-            b.pontos + p.tomaPares(c.separadas, c.qtdSeparadas, kPontosDuplaSeparada));
+    // One greedy search over the candidates given; `trincasFora` are the points of trincas
+    // found apart from them, which count towards the 60 that ends a search before the pairs.
+    Busca busca(const Listas& l, int16 trincasFora) {
+        Busca b;
+        tomaTrincas(l, b);
+        if (b.pontos + trincasFora != kPontosVitoria) {
+            b.pontos =
+                static_cast<int16>(b.pontos + tomaPares(l.duplas, l.qtdDuplas, kPontosDupla));
+            b.pontos = static_cast<int16>(
+                b.pontos + tomaPares(l.separadas, l.qtdSeparadas, kPontosDuplaSeparada));
+        }
+        b.usadas = usadas;
+        return b;
     }
-    b.usadas = p.usadas;
-    return b;
-}
+};
 
 void deixaResultado(Mesa& mesa, Lado dequem, const Busca& b) {
     constexpr int kCasasContadas = 10;
@@ -308,47 +393,61 @@ void deixaResultado(Mesa& mesa, Lado dequem, const Busca& b) {
     }
 }
 
+// Reads the hand into masks; false for a hand no deal can make (a bad card, a third copy,
+// fewer than three cards), which only the walk itself can answer for.
+bool leMao(const Mao& mao, Mao10& h) {
+    const int q = mao.qtd;
+    if (q < 3 || q > kMaxCartas) return false;
+    for (int i = 1; i <= q; ++i) {
+        const Carta carta = cartaNa(mao.valor, mao.naipe, i);
+        if (!cartaValida(carta)) return false;
+        const int t = tipoDe(carta.valor, carta.naipe);
+        if (h.dois >> t & 1) return false;
+        const int copia = static_cast<int>(h.um >> t & 1);
+        (copia ? h.dois : h.um) |= Mascara{1} << t;
+        h.m.sobe[copia] |= Mascara{1} << t;
+        h.m.desce[copia] |= Mascara{1} << kTabelas.chaveDe[kOrdemNaipeDesce][t];
+        h.m.valor[copia] |= Mascara{1} << kTabelas.chaveDe[kOrdemValorSobe][t];
+        h.m.valorDesce[copia] |= Mascara{1} << kTabelas.chaveDe[kOrdemValorDesce][t];
+    }
+    return true;
+}
+
 } // namespace
 
 int16 TemQuantosGrupos(Mesa& mesa, Lado dequem, bool soTrincas) {
-    const Mao mao = maoDe(mesa, dequem);
-    const int q = mao.qtd;
-    Candidatos c;
-    bool comum = q >= 3 && q <= kMaxCartas; // a hand the game can hold
-    for (int i = 1; comum && i <= q; ++i) {
-        const Carta carta = cartaNa(mao.valor, mao.naipe, i);
-        if (!cartaValida(carta)) {
-            comum = false;
-            break;
-        }
-        const Mascara bit = Mascara{1} << tipoDe(carta.valor, carta.naipe);
-        if (c.dois & bit) comum = false; // a third copy: only the walk knows what it does
-        (c.um & bit ? c.dois : c.um) |= bit;
-    }
-    if (!comum) return TemQuantosGruposLiteral(mesa, dequem, soTrincas);
-
-    achaCandidatos(c);
-    Mascara base[2][2]{};
-    for (int i = 0; i < c.qtdTipos; ++i) {
-        const int t = c.tipos[i];
-        const bool duas = c.dois >> t & 1;
-        const Mascara desce = Mascara{1} << chave({Familia::NaipeDesce, 1}, t);
-        base[0][0] |= Mascara{1} << t;
-        base[1][0] |= desce;
-        if (duas) base[0][1] |= Mascara{1} << t, base[1][1] |= desce;
-    }
+    Mao10 h;
+    if (!leMao(maoDe(mesa, dequem), h)) return TemQuantosGruposLiteral(mesa, dequem, soTrincas);
+    achaCandidatos(h);
+    separaDisputadas(h);
 
     const std::size_t ordens = soTrincas ? kOrdensCurtas : kOrdens.size();
-    std::array<std::uint8_t, kTipos> pos{};
+    std::array<std::uint64_t, kOrdens.size()> vistas{};
+    std::array<int16, kOrdens.size()> valores{};
+    std::size_t qtdVistas = 0;
+    std::array<std::uint8_t, kTipos> pos;
+    const int16 fixo = static_cast<int16>(h.fixoTrincas + h.fixoPares);
     int16 melhor = 0;
-    Busca ultima;
+    std::size_t ultima = 0;
     for (std::size_t o = 0; o < ordens; ++o) {
-        posicoes(c, base, o, pos);
-        ultima = buscaNaOrdem(c, pos);
-        melhor = std::max(melhor, ultima.pontos);
+        ultima = o;
+        int16 valor = fixo;
+        if (h.envolvidos != 0) {
+            const std::uint64_t assinatura = posicoesDisputadas(h, o, pos);
+            std::size_t v = 0;
+            while (v < qtdVistas && vistas[v] != assinatura) ++v;
+            if (v == qtdVistas) {
+                vistas[v] = assinatura;
+                valores[v] = Procura{h.dois, pos}.busca(h.disputadas, h.fixoTrincas).pontos;
+                ++qtdVistas;
+            }
+            valor = static_cast<int16>(valor + valores[v]);
+        }
+        melhor = std::max(melhor, valor);
         if (melhor >= kPontosVitoria) break;
     }
-    deixaResultado(mesa, dequem, ultima);
+    posicoes(h, ultima, pos);
+    deixaResultado(mesa, dequem, Procura{h.dois, pos}.busca(h.todas, 0));
     return melhor;
 }
 
