@@ -62,11 +62,13 @@ inline Mao maoDe(Mesa& m, Lado lado) {
     return {m.macValor, m.macNaipe, m.qtdMac, m.auxValorMac, m.auxNaipeMac};
 }
 
-inline Carta cartaNa(const Casas& valor, const Casas& naipe, int casa) {
+template <std::size_t N>
+Carta cartaNa(const std::array<int16, N>& valor, const std::array<int16, N>& naipe, int casa) {
     return {valor[casa], naipe[casa]};
 }
 
-inline void poeCarta(Casas& valor, Casas& naipe, int casa, Carta c) {
+template <std::size_t N>
+void poeCarta(std::array<int16, N>& valor, std::array<int16, N>& naipe, int casa, Carta c) {
     valor[casa] = c.valor;
     naipe[casa] = c.naipe;
 }

@@ -1,0 +1,31 @@
+#pragma once
+// Reading the fields of a request, with errors that name what is wrong.
+
+#include <nlohmann/json.hpp>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "core/carta.h"
+#include "core/lado.h"
+
+namespace corvina::cli {
+
+// A request that can't be answered; its text goes back as {"error": ...}.
+struct PedidoInvalido : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
+const nlohmann::ordered_json& campo(const nlohmann::ordered_json& pedido, const char* nome);
+std::string texto(const nlohmann::ordered_json& pedido, const char* nome);
+long inteiro(const nlohmann::ordered_json& pedido, const char* nome, long minimo, long maximo);
+bool booleano(const nlohmann::ordered_json& pedido, const char* nome);
+Lado lado(const nlohmann::ordered_json& pedido);
+Carta carta(const nlohmann::ordered_json& valor, const char* nome);
+// A list of cards of one of the sizes allowed.
+std::vector<Carta> cartas(const nlohmann::ordered_json& pedido, const char* nome,
+                          std::initializer_list<std::size_t> tamanhos);
+
+nlohmann::ordered_json paraJson(const std::vector<Carta>& cartas);
+
+} // namespace corvina::cli

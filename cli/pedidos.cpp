@@ -1,0 +1,263 @@
+#include "cli/pedidos.h"
+
+#include <array>
+#include <set>
+
+#include "cli/json_cartas.h"
+#include "core/distribue.h"
+#include "core/vista_nula.h"
+#include "machine/agrupa_mac.h"
+#include "machine/autojogador.h"
+#include "machine/conta_grupos.h"
+#include "machine/contagem.h"
+#include "machine/macjoga.h"
+#include "machine/ordenacao.h"
+#include "machine/tentativas.h"
+#include "machine/vale.h"
+
+namespace corvina::cli {
+
+using json = nlohmann::ordered_json;
+
+const char* const kAjuda = R"(corvina-cli: study Corvina hands, one JSON request per line.
+
+Reads one JSON object per line on standard input and writes one JSON object per line on
+standard output, in the same order, until the end of input; exits 0 then. Cards are
+"valor/naipe" strings: valor 1..13 (1 ace, 11 jack, 12 queen, 13 king), naipe 1..4
+(1 hearts, 2 clubs, 3 diamonds, 4 spades). A hand is an array of cards in slot order.
+
+Requests and answers:
+  {"op":"count","side":"Jog"|"Mac","hand":[9 or 10],"short":false}
+      -> {"count":N,"groups":[...]}   the count of the hand (short: seven orders, not
+         fifteen) and the group list it leaves (three cards a trinca; "Jog" only)
+  {"op":"contaGrupos","side":S,"hand":[9 or 10]}
+      -> {"count":N,"groups":[...]}   one greedy search on the slots as given
+  {"op":"vale","test":"grupo"|"dupla"|"duplaSeparada","side":S,"cards":[3 or 2]}
+      -> {"result":true|false}
+  {"op":"sort","fn":"ordenarEX"|"ordenarZtoA","alfa":A,"pinta":P,"side":S,"hand":[9 or 10]}
+  {"op":"sort","fn":"ordenar2","modoOrdem":M,"hand":[9 or 10]}
+      -> {"hand":[...]} (and "modoOrdem" after the call, for ordenar2)
+  {"op":"agrupaMac","hand":[9]}
+      -> {"hand":[...]}   the machine's hand laid out as at the end of a hand
+  {"op":"turn","hand":[9],"pile":"v/n","stock":["v/n",...]}
+      -> {"takes":"pile"|"stock"|"none","discard":SLOT,"hand":[9],"pile":"v/n"}
+         one machine turn; "stock" lists the stock from position 1 up, so its last entry
+         is drawn first; "none" when the stock was empty and the pile refused
+  {"op":"deal","deck":[104 ids],"pontosJog":J,"pontosMac":M,"sorte":true|false}
+      -> {"jog":[9],"mac":[9],"stock":[86],"sortePercent":N|null}
+         the deal of that shuffle (ids 1..104, each once), with the exchange's luck as
+         given; sortePercent is what the luck was asked, null if it was not
+  {"op":"selfplay","seed":S,"matches":N}
+      -> {"matches":N,"hands":..,"handsWonJog":..,"handsWonMac":..,"handsNoWinner":..,
+          "exchanges":..,"matchesWonJog":..,"matchesWonMac":..,"seconds":..}
+         whole matches, both sides by the machine's rule
+
+A request that is not valid JSON, names an unknown op, misses a field, or holds a bad card
+or a hand of the wrong size is answered {"error":"..."}, and the next line is read.
+
+Options: --help   this text.
+)";
+
+namespace {
+
+void poeMao(Mesa& mesa, Lado lado, const std::vector<Carta>& cartas) {
+    Mao mao = maoDe(mesa, lado);
+    mao.qtd = static_cast<int16>(cartas.size());
+    for (std::size_t i = 0; i < cartas.size(); ++i)
+        poeCarta(mao.valor, mao.naipe, static_cast<int>(i + 1), cartas[i]);
+}
+
+std::vector<Carta> maoDaMesa(Mesa& mesa, Lado lado) {
+    const Mao mao = maoDe(mesa, lado);
+    std::vector<Carta> cartas;
+    for (int i = 1; i <= mao.qtd; ++i) cartas.push_back(cartaNa(mao.valor, mao.naipe, i));
+    return cartas;
+}
+
+json grupos(const Mesa& mesa) {
+    std::vector<Carta> lista;
+    for (int i = 1; i <= mesa.qtdGrupo; ++i)
+        lista.push_back(cartaNa(mesa.grupoValor, mesa.grupoNaipe, i));
+    return paraJson(lista);
+}
+
+json conta(const json& p, bool soUmaOrdem) {
+    const Lado l = lado(p);
+    Mesa mesa;
+    poeMao(mesa, l, cartas(p, "hand", {9, 10}));
+    const int16 n =
+        soUmaOrdem ? ContaGrupos(mesa, l) : TemQuantosGrupos(mesa, l, booleano(p, "short"));
+    return {{"count", n}, {"groups", grupos(mesa)}};
+}
+
+json vale(const json& p) {
+    const std::string teste = texto(p, "test");
+    const Lado l = lado(p);
+    Mesa mesa;
+    if (teste == "grupo") {
+        poeMao(mesa, l, cartas(p, "cards", {3}));
+        return {{"result", ValeGrupo(mesa, 1, 2, 3, l)}};
+    }
+    if (teste != "dupla" && teste != "duplaSeparada")
+        throw PedidoInvalido("\"test\" must be \"grupo\", \"dupla\" or \"duplaSeparada\"");
+    poeMao(mesa, l, cartas(p, "cards", {2}));
+    return {
+        {"result", teste == "dupla" ? ValeDupla(mesa, 1, 2, l) : ValeDuplaSeparada(mesa, 1, 2, l)}};
+}
+
+json ordena(const json& p) {
+    const std::string fn = texto(p, "fn");
+    Mesa mesa;
+    if (fn == "ordenar2") {
+        mesa.modoOrdem = static_cast<int16>(inteiro(p, "modoOrdem", 0, 2));
+        poeMao(mesa, Lado::Jog, cartas(p, "hand", {9, 10}));
+        ordenar2(mesa);
+        return {{"hand", paraJson(maoDaMesa(mesa, Lado::Jog))}, {"modoOrdem", mesa.modoOrdem}};
+    }
+    if (fn != "ordenarEX" && fn != "ordenarZtoA")
+        throw PedidoInvalido("\"fn\" must be \"ordenarEX\", \"ordenarZtoA\" or \"ordenar2\"");
+    const auto alfa = static_cast<int16>(inteiro(p, "alfa", INT16_MIN, INT16_MAX));
+    const auto pinta = static_cast<int16>(inteiro(p, "pinta", INT16_MIN, INT16_MAX));
+    const Lado l = lado(p);
+    poeMao(mesa, l, cartas(p, "hand", {9, 10}));
+    (fn == "ordenarEX" ? ordenarEX : ordenarZtoA)(mesa, alfa, pinta, l);
+    return {{"hand", paraJson(maoDaMesa(mesa, l))}};
+}
+
+json agrupa(const json& p) {
+    Mesa mesa;
+    poeMao(mesa, Lado::Mac, cartas(p, "hand", {9}));
+    mesa.qtdJog = kCartasNaMao;
+    agrupaMaoDaMaquina(mesa);
+    return {{"hand", paraJson(maoDaMesa(mesa, Lado::Mac))}};
+}
+
+json vez(const json& p) {
+    const auto mao = cartas(p, "hand", {9});
+    const Carta topo = carta(campo(p, "pile"), "pile");
+    const json& monte = campo(p, "stock");
+    if (!monte.is_array() || monte.size() > kCartasNoMonte)
+        throw PedidoInvalido("\"stock\" must be an array of at most 86 cards");
+
+    AcasoSemente acaso(1);
+    VistaNula vista;
+    Jogo jogo(vista, acaso);
+    Mesa& m = jogo.mesa;
+    poeMao(m, Lado::Mac, mao);
+    m.qtdJog = kCartasNaMao;
+    m.discarteValor = topo.valor;
+    m.discarteNaipe = topo.naipe;
+    jogo.modulo.qtdDescarte = 1;
+    for (std::size_t i = 0; i < monte.size(); ++i)
+        poeCarta(m.baralhoValor, m.baralhoNaipe, static_cast<int>(i + 1), carta(monte[i], "stock"));
+    m.qtdBaralho = static_cast<int16>(monte.size());
+
+    // What it will do, from the rule alone; then the turn itself, through the table.
+    Mesa previa = m;
+    const Decisao d = decideDescarte(previa, topo);
+    if (!d.pegaDescarte && m.qtdBaralho == 0)
+        return {{"takes", "none"},
+                {"discard", 0},
+                {"hand", paraJson(mao)},
+                {"pile", escreveCarta(topo)}};
+    int16 descarte = d.descarte.melhorCarta;
+    if (!d.pegaDescarte) {
+        const Carta comprada = cartaNa(m.baralhoValor, m.baralhoNaipe, m.qtdBaralho);
+        previa.qtdMac = kCasaCompra;
+        poeCarta(previa.macValor, previa.macNaipe, kCasaCompra, comprada);
+        descarte = escolheDescarteAposCompra(previa, comprada, d.pontosBase);
+    }
+    macjoga(jogo);
+    return {{"takes", d.pegaDescarte ? "pile" : "stock"},
+            {"discard", descarte},
+            {"hand", paraJson(maoDaMesa(m, Lado::Mac))},
+            {"pile", escreveCarta({m.discarteValor, m.discarteNaipe})}};
+}
+
+// Answers the shuffle's luck as the request says, whatever it is asked.
+class SorteDada : public Acaso {
+  public:
+    explicit SorteDada(bool sim) : sim_(sim) {}
+    void mexe() override {}
+    double rnd() override { return sim_ ? 0.0 : 0.999999; }
+
+  private:
+    bool sim_;
+};
+
+json distribuicao(const json& p) {
+    const json& baralho = campo(p, "deck");
+    if (!baralho.is_array() || baralho.size() != kCartasNoJogo)
+        throw PedidoInvalido("\"deck\" must hold the 104 ids");
+    Embaralhado ids{};
+    std::set<long> vistos;
+    for (std::size_t i = 0; i < baralho.size(); ++i) {
+        const json& id = baralho[i];
+        if (!id.is_number_integer() || id.get<long>() < 1 || id.get<long>() > kCartasNoJogo ||
+            !vistos.insert(id.get<long>()).second)
+            throw PedidoInvalido("\"deck\" must hold each id 1..104 once");
+        ids[i + 1] = static_cast<int16>(id.get<long>());
+    }
+    SorteDada sorte(booleano(p, "sorte"));
+    VistaNula vista;
+    Jogo jogo(vista, sorte);
+    jogo.modulo.pontosJog = static_cast<int16>(inteiro(p, "pontosJog", 0, kPontosDaPartida - 1));
+    jogo.modulo.pontosMac = static_cast<int16>(inteiro(p, "pontosMac", 0, kPontosDaPartida - 1));
+    const Reparticao r = reparte(jogo, ids);
+    std::vector<Carta> monte;
+    for (int i = 1; i <= jogo.mesa.qtdBaralho; ++i)
+        monte.push_back(cartaNa(jogo.mesa.baralhoValor, jogo.mesa.baralhoNaipe, i));
+    return {{"jog", paraJson(maoDaMesa(jogo.mesa, Lado::Jog))},
+            {"mac", paraJson(maoDaMesa(jogo.mesa, Lado::Mac))},
+            {"stock", paraJson(monte)},
+            {"sortePercent", r.sortePercent ? json(*r.sortePercent) : json(nullptr)}};
+}
+
+json autojogo(const json& p) {
+    const auto semente = static_cast<std::uint64_t>(inteiro(p, "seed", 0, INT64_MAX));
+    const long partidas = inteiro(p, "matches", 0, 1000000);
+    const ResumoAutojogo r = autojoga(semente, partidas);
+    return {{"matches", r.partidas},
+            {"hands", r.maos},
+            {"handsWonJog", r.maosJog},
+            {"handsWonMac", r.maosMac},
+            {"handsNoWinner", r.maosSemVencedor},
+            {"exchanges", r.trocas},
+            {"matchesWonJog", r.partidasJog},
+            {"matchesWonMac", r.partidasMac},
+            {"seconds", r.segundos}};
+}
+
+json atende(const json& p) {
+    if (!p.is_object()) throw PedidoInvalido("a request is a JSON object");
+    const std::string op = texto(p, "op");
+    if (op == "count") return conta(p, false);
+    if (op == "contaGrupos") return conta(p, true);
+    if (op == "vale") return vale(p);
+    if (op == "sort") return ordena(p);
+    if (op == "agrupaMac") return agrupa(p);
+    if (op == "turn") return vez(p);
+    if (op == "deal") return distribuicao(p);
+    if (op == "selfplay") return autojogo(p);
+    throw PedidoInvalido("unknown op \"" + op + "\"");
+}
+
+} // namespace
+
+std::string responde(std::string_view linha) {
+    json pedido;
+    try {
+        pedido = json::parse(linha);
+    } catch (const json::parse_error& e) {
+        return json{{"error", std::string("invalid JSON: ") + e.what()}}.dump();
+    }
+    try {
+        return atende(pedido).dump();
+    } catch (const PedidoInvalido& e) {
+        return json{{"error", e.what()}}.dump();
+    } catch (const std::exception& e) {
+        return json{{"error", std::string("failed: ") + e.what()}}.dump();
+    }
+}
+
+} // namespace corvina::cli

@@ -1,0 +1,47 @@
+#include "core/ativacao.h"
+
+#include "core/ajustes.h"
+#include "core/novojogo.h"
+#include "core/pecas.h"
+
+namespace corvina {
+
+namespace {
+inline constexpr const char* kTipoCartaPadrao = "4";
+inline constexpr const char* kVelocidadePadrao = "6";
+} // namespace
+
+void leConfig(Jogo& jogo) {
+    VistaMesa& v = jogo.vista;
+    Module1& g = jogo.modulo;
+    const std::string base = chaveBase();
+    g.tipoCarta =
+        static_cast<int16>(numeroDoTexto(v.leAjuste(base, ajuste::kTipocarta, kTipoCartaPadrao)));
+    g.velocidade =
+        static_cast<int16>(numeroDoTexto(v.leAjuste(base, ajuste::kVelocidade, kVelocidadePadrao)));
+    g.tocarSom = booleanoDoTexto(v.leAjuste(base, ajuste::kTocarSom, "True"));
+    g.tocarMusica = booleanoDoTexto(v.leAjuste(base, ajuste::kTocarMusica, "False"));
+    g.avisoOrdenar = booleanoDoTexto(v.leAjuste(base, ajuste::kAvisoOrdenar, "False"));
+    g.animarCartas = true; // stored, but never restored
+    if (g.tipoCarta == 0) g.tipoCarta = 1;
+}
+
+void Form_Activate(Jogo& jogo) {
+    VistaMesa& v = jogo.vista;
+    v.processaEventos();
+    if (jogo.mesa.jaAtivada) return;
+    jogo.mesa.jaAtivada = true;
+    const std::string base = chaveBase();
+    if (v.leAjuste(base, ajuste::kPrimeiraVez, "").empty()) {
+        v.gravaAjuste(base, ajuste::kPrimeiraVez, "1");
+        v.abreJanela(Janela::FrmOpc); // the options open by themselves on a first run only
+    }
+    v.abreJanela(Janela::FrmNome);
+    novojogo(jogo);
+    v.mostraMesa();
+    v.mostraPeca(peca::kPlacar1, true);
+    v.mostraPeca(peca::kPlacar2, true);
+    v.mostraPeca(peca::kLabel4, true);
+}
+
+} // namespace corvina

@@ -1,0 +1,107 @@
+#include "core/compra.h"
+
+#include "core/novojogo.h"
+#include "core/pecas.h"
+#include "core/textos.h"
+
+namespace corvina {
+
+namespace {
+inline constexpr int kMaximoNaPilhaAposTirar = 4;
+
+void recusaSegundaCompra(VistaMesa& v) {
+    v.caixaMensagem(texto::kDevesDescartar, kEstiloInformacao, texto::kMovimentoNaoPermitido);
+}
+
+// Both draws end alike once the card stands face up in slot 10.
+void fechaCompra(Jogo& jogo) {
+    VistaMesa& v = jogo.vista;
+    v.apresentacartasdojog(kCasaCompra, kCasaCompra);
+    v.ponteiro(peca::kCostas2, Ponteiro::proibido);
+    v.ponteiro(peca::kDiscartado, Ponteiro::proibido);
+    v.ponteiro(peca::kPicmover, Ponteiro::padrao);
+    v.Habilita(true);
+    v.habilitaPeca(peca::kDiscartado, false);
+    v.habilitaPeca(peca::kCostas, false);
+    v.mostraPrompt(texto::kAgoraDescarte);
+}
+} // namespace
+
+void voltaOrdenarAuto(Jogo& jogo) {
+    jogo.mesa.ordemAuto = 0;
+    jogo.vista.legendaOrdenar(texto::kAuto);
+}
+
+void costas2_Click(Jogo& jogo) {
+    VistaMesa& v = jogo.vista;
+    Mesa& m = jogo.mesa;
+    v.habilitaPeca(peca::kCostas2, false); // no second click while this one runs
+    v.escondeAviso();
+    if (m.qtdJog == kCasaCompra) {
+        recusaSegundaCompra(v);
+        v.habilitaPeca(peca::kCostas2, true);
+        return;
+    }
+    if (jogo.modulo.tocarSom) v.tocaSom(som::kCarta1, false);
+    if (m.qtdBaralho == 0) {
+        v.caixaMensagem(texto::kAcabouBaralhoJog, kEstiloSimples, "");
+        v.habilitaPeca(peca::kCostas2, true);
+        novojogo(jogo); // no winner: the score stands
+        return;
+    }
+    voltaOrdenarAuto(jogo);
+    v.copiaFigura(peca::kDiscartado2, peca::kCostas);
+    copiaLugar(v, peca::kDiscartado2, peca::kCostas);
+    v.mostraPeca(peca::kDiscartado2, true);
+    m.animando = true;
+    voaPara(v, peca::kDiscartado2, peca::cj(kCasaCompra), voo::kCompraDoBaralho);
+    v.mostraPeca(peca::kDiscartado2, false);
+    v.copiaFigura(peca::cj(kCasaCompra), peca::kDiscartado2); // back up, for a moment
+    v.mostraPeca(peca::cj(kCasaCompra), true);
+    v.espera(pausa::kChegada);
+
+    m.animando = false;
+    m.qtdJog = kCasaCompra;
+    poeCarta(m.jogValor, m.jogNaipe, kCasaCompra,
+             cartaNa(m.baralhoValor, m.baralhoNaipe, m.qtdBaralho));
+    --m.qtdBaralho;
+    fechaCompra(jogo);
+    v.habilitaPeca(peca::kCostas2, true); // live, so that a second click meets the refusal
+    escreveTrincas(jogo);
+}
+
+void Discartado_Click(Jogo& jogo) {
+    VistaMesa& v = jogo.vista;
+    Mesa& m = jogo.mesa;
+    v.habilitaPeca(peca::kDiscartado, false);
+    v.escondeAviso();
+    if (jogo.modulo.qtdDescarte == 0) return; // stays off until the next Habilita(True)
+    if (m.qtdJog == kCasaCompra) {
+        recusaSegundaCompra(v);
+        v.habilitaPeca(peca::kDiscartado, true);
+        return;
+    }
+    voltaOrdenarAuto(jogo);
+    if (jogo.modulo.tocarSom) v.tocaSom(som::kCarta1, false);
+    --jogo.modulo.qtdDescarte;
+    v.copiaFigura(peca::kDiscartado2, peca::kDiscartado);
+    copiaLugar(v, peca::kDiscartado2, peca::kDiscartado);
+    v.mostraPeca(peca::kDiscartado2, true);
+    v.copiaFigura(peca::kDiscartado, peca::kAntes);
+    if (jogo.modulo.qtdDescarte > kMaximoNaPilhaAposTirar)
+        jogo.modulo.qtdDescarte = kMaximoNaPilhaAposTirar;
+    v.MostraDiscarts();
+    m.animando = true;
+    voaPara(v, peca::kDiscartado2, peca::cj(kCasaCompra), voo::kCompraDoDescarte);
+    v.mostraPeca(peca::kDiscartado2, false);
+    v.copiaFigura(peca::cj(kCasaCompra), peca::kDiscartado2);
+
+    m.animando = false;
+    m.qtdJog = kCasaCompra;
+    m.jogValor[kCasaCompra] = m.discarteValor;
+    m.jogNaipe[kCasaCompra] = m.discarteNaipe;
+    fechaCompra(jogo);
+    escreveTrincas(jogo);
+}
+
+} // namespace corvina

@@ -1,0 +1,16 @@
+#pragma once
+// The first half of the player's turn: a click on the stock or on the pile is the draw.
+
+#include "core/jogo.h"
+
+namespace corvina {
+
+// A click on the stock (`costas2`).
+void costas2_Click(Jogo& jogo);
+// A click on the top of the pile (`Discartado`).
+void Discartado_Click(Jogo& jogo);
+
+// Puts the sort button back to "Auto", as every draw and discard does.
+void voltaOrdenarAuto(Jogo& jogo);
+
+} // namespace corvina

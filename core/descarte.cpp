@@ -1,0 +1,107 @@
+#include "core/descarte.h"
+
+#include <optional>
+
+#include "core/compra.h"
+#include "core/finaliza.h"
+#include "core/novojogo.h"
+#include "core/pecas.h"
+#include "core/textos.h"
+#include "machine/contagem.h"
+#include "machine/macjoga.h"
+#include "machine/vale.h"
+
+namespace corvina {
+
+namespace {
+// A discard that costs the hand more than this many points sounds the error.
+inline constexpr int kPerdaTolerada = 4;
+
+void voaParaPilha(Jogo& jogo) {
+    VistaMesa& v = jogo.vista;
+    v.copiaFigura(peca::kAntes, peca::kDiscartado); // the present top goes under
+    v.MostraDiscarts();
+    ++jogo.modulo.qtdDescarte;
+    v.copiaFigura(peca::kDiscartado2, peca::kPicmover);
+    v.aplicaContorno(peca::kDiscartado2, kCorDaMesa);
+    copiaLugar(v, peca::kDiscartado2, peca::kPicmover);
+    v.mostraPeca(peca::kDiscartado2, true);
+    v.mostraPeca(peca::kPicmover, false);
+    v.destaca(0);
+    jogo.mesa.animando = true;
+    voaPara(v, peca::kDiscartado2, peca::kDiscartado, voo::kDescarte);
+    v.copiaFigura(peca::kDiscartado, peca::kDiscartado2);
+    v.mostraPeca(peca::kDiscartado, true);
+    v.aplicaContorno(peca::kDiscartado, kCorDaMesa);
+    v.mostraPeca(peca::kDiscartado2, false);
+    jogo.mesa.animando = false;
+}
+
+// Nothing may change the hands from here to the end of the machine's turn.
+struct MaosEmJogo {
+    explicit MaosEmJogo(Jogo& j) : jogo(j), antes(j.maosEmJogo) { jogo.maosEmJogo = true; }
+    ~MaosEmJogo() { jogo.maosEmJogo = antes; }
+    MaosEmJogo(const MaosEmJogo&) = delete;
+    MaosEmJogo& operator=(const MaosEmJogo&) = delete;
+    Jogo& jogo;
+    bool antes;
+};
+} // namespace
+
+Descarte descartaJog(Jogo& jogo, int16 posicao) {
+    VistaMesa& v = jogo.vista;
+    Mesa& m = jogo.mesa;
+    if (m.qtdJog != kCasaCompra || posicao < 1 || posicao > kCasaCompra) return Descarte::Recusado;
+    MaosEmJogo guarda(jogo);
+
+    v.Habilita(false);
+    voltaOrdenarAuto(jogo);
+    jogo.modulo.soTrincas = true;
+    const int16 antesDescarte = TemQuantosGrupos(m, Lado::Jog, jogo.modulo.soTrincas);
+    jogo.modulo.soTrincas = false;
+    if (jogo.modulo.tocarSom) v.tocaSom(som::kCarta1Descarte, false);
+    voaParaPilha(jogo);
+    m.discarteValor = m.jogValor[posicao];
+    m.discarteNaipe = m.jogNaipe[posicao];
+    v.espera(pausa::kChegada);
+
+    --m.qtdJog;
+    for (int j = posicao; j <= m.qtdJog; ++j) {
+        m.jogValor[j] = m.jogValor[j + 1];
+        m.jogNaipe[j] = m.jogNaipe[j + 1];
+    }
+    v.apresentacartasdojog(1, m.qtdJog);
+    const int16 depoisDescarte = TemQuantosGrupos(m, Lado::Jog);
+    if (jogo.modulo.tocarSom && depoisDescarte < antesDescarte - kPerdaTolerada) {
+        v.processaEventos();
+        v.tocaSom(som::kErro, true);
+    }
+    if (depoisDescarte >= kPontosVitoria) {
+        // The player's hand is judged first: the machine doesn't play.
+        v.mostraTrincas(texto::kTresTrincas);
+        finaliza(jogo, Lado::Jog);
+        novojogo(jogo);
+        return Descarte::MaoTerminou;
+    }
+    v.mostraTrincas(legendaTrincas(depoisDescarte));
+    v.mostraContagens(depoisDescarte, std::nullopt);
+    v.mostraPrompt(texto::kAguardeMaquina);
+
+    v.Habilita(false);
+    // A spent stock deals a new hand inside the machine's turn; its hand is judged all the same.
+    const bool novaMao = macjoga(jogo) == FimDaVez::AcabouBaralho;
+    v.Habilita(true);
+    const int16 valorMac = TemQuantosGrupos(m, Lado::Mac);
+    v.mostraContagens(std::nullopt, valorMac);
+    if (valorMac >= kPontosVitoria) {
+        finaliza(jogo, Lado::Mac);
+        novojogo(jogo);
+        return Descarte::MaoTerminou;
+    }
+    v.ponteiro(peca::kCostas2, Ponteiro::padrao);
+    v.ponteiro(peca::kDiscartado, Ponteiro::padrao);
+    v.ponteiro(peca::kPicmover, Ponteiro::proibido);
+    return novaMao ? Descarte::MaoTerminou : Descarte::Feito;
+}
+
+} // namespace corvina

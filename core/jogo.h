@@ -1,0 +1,25 @@
+#pragma once
+// The game at the table: its state and what it reaches the outside through.
+
+#include "core/acaso.h"
+#include "core/mesa.h"
+#include "core/module1.h"
+#include "core/vista_mesa.h"
+
+namespace corvina {
+
+struct Jogo {
+    Jogo(VistaMesa& v, Acaso& a) : vista(v), acaso(a) {}
+
+    Mesa mesa;
+    Module1 modulo;
+    VistaMesa& vista;
+    Acaso& acaso;
+    // From the player's discard to the end of the machine's turn nothing may change the hands;
+    // commands that would (a sort, a new match) must wait while this is set.
+    bool maosEmJogo = false;
+    // Deals in which the machine took the player's better hand: for study, never shown.
+    long trocasNaDistribuicao = 0;
+};
+
+} // namespace corvina

@@ -1,0 +1,60 @@
+#pragma once
+// Short names for the sprites the procedures of the table speak of.
+
+#include "core/vista_mesa.h"
+
+namespace corvina::peca {
+
+inline constexpr Peca kPicmover{Sprite::Picmover};
+inline constexpr Peca kDiscartado2{Sprite::discartado2};
+inline constexpr Peca kDiscartado{Sprite::Discartado};
+inline constexpr Peca kCostas2{Sprite::costas2};
+inline constexpr Peca kCostas{Sprite::costas};
+inline constexpr Peca kLabel4{Sprite::Label4};
+inline constexpr Peca kPlacar1{Sprite::Placar1};
+inline constexpr Peca kPlacar2{Sprite::Placar2};
+inline constexpr Peca kAntes{Sprite::antes};
+inline constexpr Peca kVazio{Sprite::vazio};
+constexpr Peca cj(int i) {
+    return {Sprite::cj, static_cast<int16>(i)};
+}
+constexpr Peca cm(int i) {
+    return {Sprite::cm, static_cast<int16>(i)};
+}
+constexpr Peca picture8(int i) {
+    return {Sprite::Picture8, static_cast<int16>(i)};
+}
+constexpr Peca picture3(int i) {
+    return {Sprite::Picture3, static_cast<int16>(i)};
+}
+constexpr Peca ramo(int valor) {
+    return {Sprite::ramo, static_cast<int16>(valor)};
+}
+
+} // namespace corvina::peca
+
+namespace corvina {
+
+inline void copiaLugar(VistaMesa& v, Peca destino, Peca origem) {
+    v.poeLugar(destino, v.lugar(origem));
+}
+
+inline void voaPara(VistaMesa& v, Peca sprite, Peca alvo, double fator) {
+    const Lugar l = v.lugar(alvo);
+    v.voaCarta(sprite, l.left, l.top, fator);
+}
+
+} // namespace corvina
+
+// Steps of a flight for each unit of `velocidade`.
+namespace corvina::voo {
+inline constexpr double kCompraDoBaralho = 2.5;
+inline constexpr double kCompraDoDescarte = 1.5;
+inline constexpr double kDescarte = 2;
+inline constexpr double kVoltaParaMao = 1;
+} // namespace corvina::voo
+
+namespace corvina::pausa {
+inline constexpr int kChegada = 100; // a card that arrives, a card that leaves
+inline constexpr int kDepoisDoDescarteDaMaquina = 200;
+} // namespace corvina::pausa

@@ -1,0 +1,118 @@
+#pragma once
+// Everything the game needs from the outside: the screen, time, sound and the store.
+// Called on the one thread of the game; every call returns when its work is done.
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "core/carta.h"
+
+namespace corvina {
+
+// The pictures of the table that the game names. Holders (antes, vazio, intermediario) and the
+// picture sets (faces, backs) only give and take pictures; the others also have a place.
+enum class Sprite : std::uint8_t {
+    Picmover,
+    discartado2,
+    Discartado,
+    costas2,
+    costas,
+    cj,       // the player's slots 1..10
+    cm,       // the machine's slots 1..10
+    Picture8, // the fan of the pile 0..4
+    Picture3, // the edge of the stock 0..4
+    Label4,   // the sort button
+    Placar1,
+    Placar2,
+    antes,
+    vazio,
+    intermediario,
+    coracao, // faces by value 1..13, one set per suit
+    copa,
+    espada,
+    ramo,
+    tipotC, // the card backs 1..8
+};
+
+struct Peca {
+    Sprite sprite;
+    int16 indice = 0;
+    friend constexpr bool operator==(const Peca&, const Peca&) = default;
+};
+
+// Place of a sprite in twips (15 to the pixel).
+struct Lugar {
+    float left = 0;
+    float top = 0;
+};
+
+enum class Ponteiro : int16 { padrao = 0, proibido = 12, mao = 99 };
+
+enum class Janela { FrmPlacar, FrmNome, FrmOpc, FrmRecords, frmtipos, FrmSobre };
+
+// Message box styles and the button it answers with.
+inline constexpr int kEstiloSimples = 0;
+inline constexpr int kEstiloInformacao = 64;
+inline constexpr int kBotaoOk = 1;
+
+inline constexpr std::uint32_t kCorDaMesa = 0x408215; // 0xBBGGRR, the key of card outlines
+
+// What the final-score window shows when it opens.
+struct Placar {
+    std::string manchete;
+    int16 pontosJog = 0;
+    int16 pontosMac = 0;
+    bool pisca = false; // Timer1: the names and points blink, a match was won
+};
+
+class VistaMesa {
+  public:
+    virtual ~VistaMesa() = default;
+
+    // The rows, the pile and the means of play.
+    virtual void apresentacartasdojog(int16 inicio, int16 fim) = 0;
+    virtual void apresentacartasdamac(int16 most, int16 mostraesta) = 0;
+    virtual void destaca(int16 index) = 0;
+    virtual void MostraDiscarts() = 0;
+    virtual void Habilita(bool h) = 0;
+    virtual void Premover(int16 index) = 0;
+    virtual void voaCarta(Peca sprite, float alvoLeft, float alvoTop, double fator) = 0;
+    virtual void aplicaContorno(Peca sprite, std::uint32_t corChave) = 0;
+
+    // Fields of single sprites, as the procedures of the table set them.
+    virtual void mostraPeca(Peca peca, bool visivel) = 0;
+    virtual void habilitaPeca(Peca peca, bool habilitada) = 0;
+    virtual void ponteiro(Peca peca, Ponteiro p) = 0;
+    virtual void copiaFigura(Peca destino, Peca origem) = 0;
+    virtual Lugar lugar(Peca peca) = 0;
+    virtual void poeLugar(Peca peca, Lugar lugar) = 0;
+
+    // Texts of the table.
+    virtual void mostraPrompt(const std::string& texto) = 0;
+    virtual void mostraAviso(const std::string& texto) = 0;
+    virtual void escondeAviso() = 0;
+    virtual void mostraTrincas(const std::string& texto) = 0;
+    virtual void mostraPlacar(int16 jog, int16 mac) = 0;
+    virtual void mostraContagens(std::optional<int16> jog, std::optional<int16> mac) = 0;
+    virtual void mostraMesa() = 0;
+    virtual void legendaOrdenar(const std::string& texto) = 0;
+
+    // Windows. An empty title is the program's own.
+    virtual int caixaMensagem(const std::string& texto, int estilo, const std::string& titulo) = 0;
+    virtual void preparaPlacar(const Placar& placar) = 0;
+    virtual void abreJanela(Janela janela) = 0;
+
+    // Sound and time. A sound name starts with a backslash: "\cart1.wav".
+    virtual void tocaSom(const std::string& arquivo, bool aguarda) = 0;
+    virtual void espera(int milissegundos) = 0;
+    virtual void processaEventos() = 0;
+
+    // The store: text values under keys.
+    virtual std::string leAjuste(const std::string& chave, const std::string& nome,
+                                 const std::string& padrao) = 0;
+    virtual bool gravaAjuste(const std::string& chave, const std::string& nome,
+                             const std::string& valor) = 0;
+};
+
+} // namespace corvina

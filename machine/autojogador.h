@@ -1,0 +1,32 @@
+#pragma once
+// The player's side played by the machine's own rule, through the very operations the mouse
+// reaches: a click on the pile or the stock, then a discard. It reads only the player's own
+// cards, the top of the pile and the card it drew.
+
+#include <cstdint>
+
+#include "core/jogo.h"
+
+namespace corvina {
+
+// One whole turn of the player from nine cards: the draw, the discard, and so the machine's
+// turn inside it. Does nothing unless the player holds nine cards.
+void jogaPeloJogador(Jogo& jogo);
+
+struct ResumoAutojogo {
+    long partidas = 0;
+    long maos = 0;
+    long maosJog = 0;
+    long maosMac = 0;
+    long maosSemVencedor = 0;
+    long trocas = 0;
+    long partidasJog = 0;
+    long partidasMac = 0;
+    double segundos = 0;
+};
+
+// Whole matches from a seed, both sides by the machine's rule, through a view that draws
+// nothing: what the deal's exchange does to two equal players.
+ResumoAutojogo autojoga(std::uint64_t semente, long partidas);
+
+} // namespace corvina

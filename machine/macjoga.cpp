@@ -1,0 +1,126 @@
+#include "machine/macjoga.h"
+
+#include "core/novojogo.h"
+#include "core/pecas.h"
+#include "core/textos.h"
+#include "machine/tentativas.h"
+
+namespace corvina {
+
+namespace {
+inline constexpr int kUltimaCartaDoMonte = 1;
+
+void pegaDoDescarte(Jogo& jogo, int16 melhorCarta) {
+    VistaMesa& v = jogo.vista;
+    Mesa& m = jogo.mesa;
+    if (jogo.modulo.tocarSom) v.tocaSom(som::kCarta3, false);
+    --jogo.modulo.qtdDescarte;
+    v.copiaFigura(peca::kDiscartado2, peca::kDiscartado);
+    copiaLugar(v, peca::kDiscartado2, peca::kDiscartado);
+    v.mostraPeca(peca::kDiscartado2, true);
+    v.copiaFigura(peca::kDiscartado, peca::kAntes);
+    if (jogo.modulo.qtdDescarte > 4) jogo.modulo.qtdDescarte = 4;
+    v.MostraDiscarts();
+
+    m.animando = true;
+    voaPara(v, peca::kDiscartado2, peca::cm(kCasaCompra), voo::kDescarte);
+    v.copiaFigura(peca::cm(kCasaCompra), peca::kDiscartado2);
+    v.mostraPeca(peca::kDiscartado2, false);
+    m.animando = false;
+    v.mostraPeca(peca::cm(kCasaCompra), true);
+    v.espera(pausa::kChegada);
+
+    m.qtdMac = kCasaCompra;
+    m.macValor[kCasaCompra] = m.discarteValor;
+    m.macNaipe[kCasaCompra] = m.discarteNaipe;
+    v.apresentacartasdamac(8, 0);
+    macdiscarta(jogo, melhorCarta);
+}
+
+void compraDoMonte(Jogo& jogo, int16 pontosBase) {
+    VistaMesa& v = jogo.vista;
+    Mesa& m = jogo.mesa;
+    if (jogo.modulo.tocarSom) v.tocaSom(som::kCarta3, false);
+    v.copiaFigura(peca::kDiscartado2, peca::kCostas);
+    copiaLugar(v, peca::kDiscartado2, peca::kCostas);
+    v.mostraPeca(peca::kDiscartado2, true);
+    if (m.qtdBaralho == kUltimaCartaDoMonte) v.mostraPeca(peca::kCostas, false);
+    // The drawn card flies with its back up and stays unseen: no pause, no guard.
+    voaPara(v, peca::kDiscartado2, peca::cm(kCasaCompra), voo::kCompraDoBaralho);
+    v.copiaFigura(peca::cm(kCasaCompra), peca::kDiscartado2);
+    v.mostraPeca(peca::kDiscartado2, false);
+
+    m.qtdMac = kCasaCompra;
+    const Carta comprada = cartaNa(m.baralhoValor, m.baralhoNaipe, m.qtdBaralho);
+    poeCarta(m.macValor, m.macNaipe, kCasaCompra, comprada);
+    --m.qtdBaralho;
+    v.apresentacartasdamac(8, 0);
+
+    jogo.modulo.soTrincas = true;
+    const int16 carta = escolheDescarteAposCompra(m, comprada, pontosBase);
+    jogo.modulo.soTrincas = false;
+    macdiscarta(jogo, carta);
+}
+} // namespace
+
+FimDaVez macjoga(Jogo& jogo) {
+    VistaMesa& v = jogo.vista;
+    Mesa& m = jogo.mesa;
+    v.Habilita(false);
+    jogo.modulo.soTrincas = true; // the tries are short counts; the base is a full one
+    const Decisao d = decideDescarte(m, Carta{m.discarteValor, m.discarteNaipe});
+    jogo.modulo.soTrincas = false;
+    if (d.pegaDescarte) {
+        pegaDoDescarte(jogo, d.descarte.melhorCarta);
+        return FimDaVez::Descartou;
+    }
+    if (m.qtdBaralho == 0) {
+        v.caixaMensagem(texto::kAcabouBaralhoMac, kEstiloSimples, "");
+        v.Habilita(true);
+        novojogo(jogo);
+        return FimDaVez::AcabouBaralho;
+    }
+    compraDoMonte(jogo, d.pontosBase);
+    return FimDaVez::Descartou;
+}
+
+void macdiscarta(Jogo& jogo, int16 carta) {
+    VistaMesa& v = jogo.vista;
+    Mesa& m = jogo.mesa;
+    v.Habilita(false);
+    v.apresentacartasdamac(carta, carta);
+    v.espera(pausa::kChegada);
+    if (jogo.modulo.tocarSom) v.tocaSom(som::kCarta3, false);
+    v.copiaFigura(peca::kAntes, peca::kDiscartado);
+    v.MostraDiscarts();
+    ++jogo.modulo.qtdDescarte;
+    v.copiaFigura(peca::kDiscartado2, peca::cm(carta));
+    copiaLugar(v, peca::kDiscartado2, peca::cm(carta));
+    v.mostraPeca(peca::kDiscartado2, true);
+    v.mostraPeca(peca::cm(carta), false);
+
+    m.animando = true;
+    voaPara(v, peca::kDiscartado2, peca::kDiscartado, voo::kDescarte);
+    v.copiaFigura(peca::kDiscartado, peca::kDiscartado2);
+    v.mostraPeca(peca::kDiscartado, true);
+    v.mostraPeca(peca::kDiscartado2, false);
+    m.animando = false;
+    v.espera(pausa::kDepoisDoDescarteDaMaquina);
+
+    // The hand changes only now that the flight is over.
+    m.discarteValor = m.macValor[carta];
+    m.discarteNaipe = m.macNaipe[carta];
+    --m.qtdMac;
+    for (int s = carta; s <= m.qtdMac; ++s) {
+        m.macValor[s] = m.macValor[s + 1];
+        m.macNaipe[s] = m.macNaipe[s + 1];
+    }
+    if (carta != kCasaCompra) v.mostraPeca(peca::cm(carta), true);
+    v.apresentacartasdamac(1, 0);
+    v.Habilita(true);
+    v.habilitaPeca(peca::kDiscartado, true);
+    v.habilitaPeca(peca::kCostas, true);
+    v.mostraPrompt(texto::kPegueBaralhoOuDescarte);
+}
+
+} // namespace corvina

@@ -1,0 +1,29 @@
+#pragma once
+// The machine's one rule: a new card comes in only where it raises the count of the hand.
+// These read the machine's own nine cards and the card on offer, nothing else.
+
+#include "core/mesa.h"
+
+namespace corvina {
+
+struct Tentativa {
+    int16 melhorPontos = 0;
+    int16 melhorCarta = 0; // slot 1..9 of the best short count; 0 when none rose above 0
+};
+
+// Tries the card in each of the machine's slots 1..9 in turn (rising, or falling from 9),
+// judging each by the short count. The first slot to reach a result keeps it.
+Tentativa tentaCarta(Mesa& mesa, Carta nova, bool descendo);
+
+// What the machine does with the top of the pile, before anything is shown.
+struct Decisao {
+    bool pegaDescarte = false;
+    int16 pontosBase = 0; // the full count of the nine cards
+    Tentativa descarte;   // the tries of the top of the pile
+};
+Decisao decideDescarte(Mesa& mesa, Carta topo);
+
+// After a draw: the slot to throw away, 10 for the drawn card itself.
+int16 escolheDescarteAposCompra(Mesa& mesa, Carta comprada, int16 pontosBase);
+
+} // namespace corvina
