@@ -1,0 +1,58 @@
+#pragma once
+// A game at a table that draws nothing, with every call kept, for the tests of the flow.
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "apoio/maos.h"
+#include "core/jogo.h"
+#include "core/vista_nula.h"
+
+namespace corvina::teste {
+
+struct JogoDeTeste {
+    explicit JogoDeTeste(std::uint64_t semente = 1) : acaso(semente), jogo(vista, acaso) {
+        vista.registra = true;
+        jogo.modulo.velocidade = 6;
+        jogo.modulo.nomeJogador = "Ana";
+    }
+
+    // A hand in the middle of play: both hands, the top of the pile, the stock (position 1
+    // first, so its last card is drawn first).
+    void arma(std::string_view jog, std::string_view mac, std::string_view topo = "",
+              std::string_view monte = "") {
+        poeMao(jogo.mesa, Lado::Jog, jog);
+        poeMao(jogo.mesa, Lado::Mac, mac);
+        if (!topo.empty()) {
+            const Carta c = cartas(topo).at(0);
+            jogo.mesa.discarteValor = c.valor;
+            jogo.mesa.discarteNaipe = c.naipe;
+            jogo.modulo.qtdDescarte = 1;
+        }
+        const auto m = cartas(monte);
+        for (std::size_t i = 0; i < m.size(); ++i)
+            poeCarta(jogo.mesa.baralhoValor, jogo.mesa.baralhoNaipe, static_cast<int>(i + 1), m[i]);
+        jogo.mesa.qtdBaralho = static_cast<int16>(m.size());
+        vista.chamadas.clear();
+    }
+
+    bool chamou(const std::string& linha) const {
+        return std::find(vista.chamadas.begin(), vista.chamadas.end(), linha) !=
+               vista.chamadas.end();
+    }
+    // Position of the first call that is `linha`; -1 if none.
+    long ordem(const std::string& linha) const {
+        const auto it = std::find(vista.chamadas.begin(), vista.chamadas.end(), linha);
+        return it == vista.chamadas.end() ? -1 : it - vista.chamadas.begin();
+    }
+    std::string topo() const {
+        return escreveCarta({jogo.mesa.discarteValor, jogo.mesa.discarteNaipe});
+    }
+
+    AcasoSemente acaso;
+    VistaNula vista;
+    Jogo jogo;
+};
+
+} // namespace corvina::teste
