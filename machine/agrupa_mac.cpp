@@ -46,14 +46,15 @@ void agrupaMaoDaMaquina(Mesa& m) {
     ordenar2(m);
     TemQuantosGrupos(m, Lado::Jog); // only the group list it leaves counts
 
-    // Room for a tenth entry: twins in two trincas put one slot's card in twice (below).
     std::array<int16, kCasaCompra + 2> novoValor{}, novoNaipe{};
     std::array<bool, kCasaCompra + 1> usado{};
     int qtdNova = 0;
     for (int i = 1; i <= m.qtdGrupo; ++i) {
         for (int j = 1; j <= m.qtdJog; ++j) {
-            // Used slots are not skipped: both copies of a twin lead to the first slot.
-            if (m.jogNaipe[j] != m.grupoNaipe[i] || m.jogValor[j] != m.grupoValor[i]) continue;
+            // Twins in two trincas: the second entry must find the second copy's slot, or that
+            // copy would be laid out again among the rest and some other card dropped.
+            if (usado[j] || m.jogNaipe[j] != m.grupoNaipe[i] || m.jogValor[j] != m.grupoValor[i])
+                continue;
             ++qtdNova;
             novoValor[qtdNova] = m.jogValor[j];
             novoNaipe[qtdNova] = m.jogNaipe[j];

@@ -39,8 +39,10 @@ INSTANTIATE_TEST_SUITE_P(
         CasoAgrupa{"3/1 3/2 3/3 3/4 4/4 5/4 9/1 10/2 11/3",
                    "5/4 4/4 3/4 3/1 3/2 3/3 9/1 10/2 11/3"},
         CasoAgrupa{"7/1 8/1 9/1 2/2 4/2 9/2 9/3 7/4 9/4", "9/4 9/1 9/2 7/1 8/1 2/2 4/2 9/3 7/4"},
-        // twins in two trincas: one slot's card twice, and still nine cards
-        CasoAgrupa{"5/1 5/2 5/3 4/2 5/2 6/2 9/3 9/4 9/1", "4/2 5/2 6/2 5/2 5/3 5/1 9/3 9/4 9/1"}));
+        // twins in two trincas: both copies in front, and still the same nine cards
+        CasoAgrupa{"5/1 5/2 5/3 4/2 5/2 6/2 9/3 9/4 9/1", "4/2 5/2 6/2 5/2 5/3 5/1 9/3 9/4 9/1"},
+        CasoAgrupa{"13/3 11/3 12/3 11/1 11/3 11/2 10/1 12/4 1/4",
+                   "13/3 12/3 11/3 11/1 11/2 11/3 10/1 1/4 12/4"}));
 
 } // namespace
 } // namespace corvina

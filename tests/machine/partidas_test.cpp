@@ -1,0 +1,155 @@
+// Whole matches from fixed seeds, the player's side driven by a policy through the table's own
+// operations, with the state of the table checked at every call it makes and after every turn.
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <random>
+
+#include "core/ajustes.h"
+#include "core/ativacao.h"
+#include "core/compra.h"
+#include "core/descarte.h"
+#include "core/vista_nula.h"
+#include "machine/autojogador.h"
+
+namespace corvina {
+namespace {
+
+// A table that draws nothing and keeps the size of the pile by the pictures it is told to
+// move: a card onto the pile, the top taken away, an empty pile at a new hand.
+class VistaVigia : public VistaNula {
+  public:
+    void copiaFigura(Peca destino, Peca origem) override {
+        VistaNula::copiaFigura(destino, origem);
+        if (destino == Peca{Sprite::antes} && origem == Peca{Sprite::Discartado}) ++pilha;
+        if (destino == Peca{Sprite::Discartado} && origem == Peca{Sprite::antes}) --pilha;
+        if (destino == Peca{Sprite::Discartado} && origem == Peca{Sprite::vazio}) pilha = 0;
+    }
+    int pilha = 0;
+};
+
+using Contagem = std::array<int, kCartasPorBaralho>;
+
+void tira(Contagem& c, const Casas& valor, const Casas& naipe, int qtd) {
+    for (int i = 1; i <= qtd; ++i) --c[(naipe[i] - 1) * kValores + valor[i] - 1];
+}
+
+Contagem semDono(const Mesa& m) {
+    Contagem c;
+    c.fill(2);
+    tira(c, m.jogValor, m.jogNaipe, m.qtdJog);
+    tira(c, m.macValor, m.macNaipe, m.qtdMac);
+    for (int i = 1; i <= m.qtdBaralho; ++i)
+        --c[(m.baralhoNaipe[i] - 1) * kValores + m.baralhoValor[i] - 1];
+    return c;
+}
+
+// What must hold at any moment of a hand, flights and the machine's turn included.
+void confereSempre(const Jogo& jogo) {
+    const Mesa& m = jogo.mesa;
+    if (m.qtdJog == 0) return; // nothing dealt yet
+    ASSERT_TRUE(m.qtdJog == 9 || m.qtdJog == 10) << m.qtdJog;
+    ASSERT_TRUE(m.qtdMac == 9 || m.qtdMac == 10) << m.qtdMac;
+    ASSERT_FALSE(m.qtdJog == 10 && m.qtdMac == 10);
+    ASSERT_GE(m.qtdBaralho, 0);
+    ASSERT_LE(m.qtdBaralho, kCartasNoMonte);
+    for (const int n : semDono(m)) ASSERT_GE(n, 0) << "a card is held more often than it exists";
+    ASSERT_GE(jogo.modulo.pontosJog, 0);
+    ASSERT_LE(jogo.modulo.pontosJog, kPontosDaPartida);
+    ASSERT_LE(jogo.modulo.pontosMac, kPontosDaPartida);
+}
+
+// What must hold between turns: nine and nine, and every card in a hand, the stock or the pile.
+void confereEntreVezes(const Jogo& jogo, const VistaVigia& vista) {
+    const Mesa& m = jogo.mesa;
+    ASSERT_EQ(m.qtdJog, 9);
+    ASSERT_EQ(m.qtdMac, 9);
+    ASSERT_FALSE(jogo.maosEmJogo);
+    const Contagem resto = semDono(m);
+    int naPilha = 0;
+    for (const int n : resto) naPilha += n;
+    ASSERT_EQ(naPilha, vista.pilha) << "hands + stock + pile must be the 104 cards";
+    ASSERT_GE(jogo.modulo.qtdDescarte, vista.pilha > 0 ? 1 : 0);
+    if (vista.pilha > 0) {
+        ASSERT_GE(resto[(m.discarteNaipe - 1) * kValores + m.discarteValor - 1], 1)
+            << "the top of the pile is a card of the pile";
+    }
+    ASSERT_LT(jogo.modulo.pontosJog, kPontosDaPartida);
+    ASSERT_LT(jogo.modulo.pontosMac, kPontosDaPartida);
+}
+
+// Random draws and random discards: every path of the player's turn, good and bad.
+void jogaAoAcaso(Jogo& jogo, std::mt19937& g) {
+    if (jogo.modulo.qtdDescarte > 0 && g() % 2 == 0)
+        Discartado_Click(jogo);
+    else
+        costas2_Click(jogo);
+    if (jogo.mesa.qtdJog != kCasaCompra) return; // the stock was spent
+    descartaJog(jogo, static_cast<int16>(g() % kCasaCompra + 1));
+}
+
+struct Politica {
+    const char* nome;
+    bool aoAcaso;
+};
+
+class PartidasTest : public testing::TestWithParam<std::tuple<Politica, unsigned>> {};
+
+TEST_P(PartidasTest, TableStaysSoundThroughWholeMatches) {
+    const auto [politica, semente] = GetParam();
+    AcasoSemente acaso(semente);
+    VistaVigia vista;
+    Jogo jogo(vista, acaso);
+    leConfig(jogo);
+    jogo.modulo.nomeJogador = "Ana";
+    std::mt19937 g(semente);
+
+    int partidas = 0, maos = 0;
+    vista.aCadaChamada = [&] { confereSempre(jogo); };
+    vista.aoAbrirJanela = [&](Janela janela) {
+        if (janela == Janela::FrmPlacar) ++maos;
+        if (janela == Janela::FrmNome && jogo.mesa.jaAtivada && jogo.mesa.qtdJog > 0) ++partidas;
+    };
+    Form_Activate(jogo);
+    constexpr int kPartidas = 3;
+    long turnos = 0;
+    while (partidas < kPartidas && !HasFatalFailure()) {
+        ASSERT_LT(++turnos, 20000) << "the matches never ended";
+        if (politica.aoAcaso)
+            jogaAoAcaso(jogo, g);
+        else
+            jogaPeloJogador(jogo);
+        confereEntreVezes(jogo, vista);
+    }
+    const std::string chave = chaveJogador("Ana");
+    const long v = numeroDoTexto(vista.armazem.le(chave, "Vitorias", "0"));
+    const long d = numeroDoTexto(vista.armazem.le(chave, "Derrotas", "0"));
+    EXPECT_EQ(v + d, kPartidas);
+    EXPECT_EQ(numeroDoTexto(vista.armazem.le(chave, "Saldo", "0")), v - d);
+    EXPECT_GE(maos, kPartidas * 4);
+}
+
+INSTANTIATE_TEST_SUITE_P(Sementes, PartidasTest,
+                         testing::Combine(testing::Values(Politica{"regra", false},
+                                                          Politica{"acaso", true}),
+                                          testing::Values(1u, 2u, 3u, 5u, 8u, 13u)),
+                         [](const auto& info) {
+                             return std::string(std::get<0>(info.param).nome) + "_" +
+                                    std::to_string(std::get<1>(info.param));
+                         });
+
+TEST(Autojogo, TheSameSeedPlaysTheSameMatches) {
+    const ResumoAutojogo a = autojoga(77, 5);
+    const ResumoAutojogo b = autojoga(77, 5);
+    EXPECT_EQ(a.maos, b.maos);
+    EXPECT_EQ(a.maosJog, b.maosJog);
+    EXPECT_EQ(a.trocas, b.trocas);
+    EXPECT_EQ(a.partidas, 5);
+    EXPECT_EQ(a.partidasJog + a.partidasMac, 5);
+    EXPECT_EQ(a.maosJog + a.maosMac + a.maosSemVencedor, a.maos);
+    EXPECT_GE(a.maosJog, 4 * a.partidasJog);
+}
+
+} // namespace
+} // namespace corvina
