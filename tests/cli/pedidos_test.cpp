@@ -1,0 +1,118 @@
+#include <gtest/gtest.h>
+
+#include <nlohmann/json.hpp>
+
+#include "cli/pedidos.h"
+
+namespace corvina::cli {
+namespace {
+
+using nlohmann::json;
+
+struct Caso {
+    const char* pedido;
+    const char* resposta; // the whole answer, as JSON
+};
+
+class RespostaTest : public testing::TestWithParam<Caso> {};
+
+TEST_P(RespostaTest, AnswersTheRequest) {
+    EXPECT_EQ(json::parse(responde(GetParam().pedido)), json::parse(GetParam().resposta))
+        << GetParam().pedido;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Pedidos, RespostaTest,
+    testing::Values(
+        Caso{
+            R"({"op":"count","side":"Jog","hand":["7/1","7/2","7/3","4/2","5/2","6/2","12/4","13/4","1/4"],"short":false})",
+            R"({"count":60,"groups":["4/2","5/2","6/2","7/2","7/3","7/1","1/4","12/4","13/4"]})"},
+        Caso{
+            R"({"op":"count","side":"Mac","hand":["13/1","13/2","12/1","2/1","3/1","4/1","13/4","1/1","13/3"],"short":true})",
+            R"({"count":43,"groups":[]})"},
+        Caso{
+            R"({"op":"contaGrupos","side":"Jog","hand":["3/1","3/2","3/3","3/4","4/4","5/4","9/1","10/2","11/3"]})",
+            R"({"count":40,"groups":["3/1","3/2","3/3","3/4","4/4","5/4"]})"},
+        Caso{R"({"op":"vale","test":"grupo","side":"Mac","cards":["12/3","13/3","1/3"]})",
+             R"({"result":true})"},
+        Caso{R"({"op":"vale","test":"duplaSeparada","side":"Jog","cards":["2/4","13/4"]})",
+             R"({"result":false})"},
+        Caso{R"({"op":"vale","test":"dupla","side":"Jog","cards":["1/2","13/2"]})",
+             R"({"result":true})"},
+        Caso{
+            R"({"op":"sort","fn":"ordenarEX","alfa":1,"pinta":3,"side":"Jog","hand":["9/1","2/3","9/3","1/4","13/2","5/1","6/2","7/3","8/4"]})",
+            R"({"hand":["2/3","7/3","9/3","1/4","8/4","5/1","9/1","6/2","13/2"]})"},
+        Caso{
+            R"({"op":"sort","fn":"ordenar2","modoOrdem":2,"hand":["9/3","2/1","9/1","1/4","13/2","5/1","6/2","7/3","8/4"]})",
+            R"({"hand":["2/1","5/1","9/1","6/2","13/2","7/3","9/3","1/4","8/4"],"modoOrdem":1})"},
+        Caso{
+            R"({"op":"agrupaMac","hand":["13/4","1/4","7/3","6/2","12/4","5/2","7/2","4/2","7/1"]})",
+            R"({"hand":["4/2","5/2","6/2","7/2","7/3","7/1","1/4","12/4","13/4"]})"},
+        Caso{
+            R"({"op":"turn","hand":["1/1","3/2","5/3","7/4","9/1","11/2","13/3","2/4","6/1"],"pile":"10/4","stock":["8/3","1/2"]})",
+            R"({"takes":"stock","discard":9,"hand":["1/1","3/2","5/3","7/4","9/1","11/2","13/3","2/4","1/2"],"pile":"6/1"})"},
+        Caso{
+            R"({"op":"turn","hand":["1/1","3/2","5/3","7/4","9/1","11/2","13/3","2/4","6/1"],"pile":"10/4","stock":[]})",
+            R"({"takes":"none","discard":0,"hand":["1/1","3/2","5/3","7/4","9/1","11/2","13/3","2/4","6/1"],"pile":"10/4"})"},
+        // bad requests: an error that names the fault
+        Caso{
+            "not json",
+            R"({"error":"invalid JSON: [json.exception.parse_error.101] parse error at line 1, column 2: syntax error while parsing value - invalid literal; last read: 'no'"})"},
+        Caso{R"({"op":"fly"})", R"({"error":"unknown op \"fly\""})"},
+        Caso{R"([1,2])", R"({"error":"a request is a JSON object"})"},
+        Caso{R"({"op":"count","side":"Jog","short":false})",
+             R"({"error":"missing field \"hand\""})"},
+        Caso{R"({"op":"count","side":"jog","hand":[],"short":false})",
+             R"({"error":"\"side\" must be \"Jog\" or \"Mac\""})"},
+        Caso{R"({"op":"count","side":"Jog","hand":["7/1"],"short":false})",
+             R"({"error":"\"hand\" must hold 9 or 10 cards"})"},
+        Caso{R"({"op":"vale","test":"grupo","side":"Jog","cards":["14/1","1/1","2/1"]})",
+             R"({"error":"bad card \"14/1\" in \"cards\": value 1..13 / suit 1..4"})"},
+        Caso{R"({"op":"vale","test":"grupo","side":"Jog","cards":["1/5","1/1","2/1"]})",
+             R"({"error":"bad card \"1/5\" in \"cards\": value 1..13 / suit 1..4"})"},
+        Caso{R"({"op":"deal","deck":[1,2,3],"pontosJog":0,"pontosMac":0,"sorte":true})",
+             R"({"error":"\"deck\" must hold the 104 ids"})"},
+        Caso{R"({"op":"selfplay","seed":-1,"matches":1})",
+             R"({"error":"\"seed\" must lie in 0..9223372036854775807"})"}));
+
+json deckDe(int primeiro) {
+    json deck = json::array();
+    for (int i = 0; i < 104; ++i) deck.push_back((primeiro + i - 1) % 104 + 1);
+    return deck;
+}
+
+TEST(Distribuicao, DealsPositionsInOrderAndReportsTheLuckAsked) {
+    // ids 40..52 are spades 1..13: the player's run gives way to a weaker machine's hand.
+    json pedido = {
+        {"op", "deal"}, {"deck", deckDe(40)}, {"pontosJog", 3}, {"pontosMac", 2}, {"sorte", true}};
+    const json r = json::parse(responde(pedido.dump()));
+    ASSERT_FALSE(r.contains("error")) << r.dump();
+    EXPECT_EQ(r["sortePercent"], 70);
+    EXPECT_EQ(r["mac"][0], "1/4") << "the better hand went to the machine";
+    EXPECT_EQ(r["stock"].size(), 86u);
+    EXPECT_EQ(r["stock"][0], "6/1"); // position 19: id 58, the second six of hearts
+
+    pedido["sorte"] = false;
+    const json s = json::parse(responde(pedido.dump()));
+    EXPECT_EQ(s["jog"][0], "1/4");
+    pedido["pontosJog"] = 1;
+    pedido["pontosMac"] = 2;
+    EXPECT_TRUE(json::parse(responde(pedido.dump()))["sortePercent"].is_null());
+
+    json dobrado = pedido;
+    dobrado["deck"][5] = dobrado["deck"][4];
+    EXPECT_EQ(json::parse(responde(dobrado.dump()))["error"],
+              "\"deck\" must hold each id 1..104 once");
+}
+
+TEST(Autojogo, ReportsWholeMatches) {
+    const json r = json::parse(responde(R"({"op":"selfplay","seed":4,"matches":3})"));
+    EXPECT_EQ(r["matches"], 3);
+    EXPECT_EQ(r["matchesWonJog"].get<int>() + r["matchesWonMac"].get<int>(), 3);
+    EXPECT_EQ(r["handsWonJog"].get<int>() + r["handsWonMac"].get<int>() +
+                  r["handsNoWinner"].get<int>(),
+              r["hands"].get<int>());
+}
+
+} // namespace
+} // namespace corvina::cli
