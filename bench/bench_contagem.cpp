@@ -4,6 +4,7 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
+#include <chrono>
 #include <random>
 #include <vector>
 
@@ -45,6 +46,40 @@ BENCHMARK(contagem<TemQuantosGrupos>)
     ->Name("contagem/rapida")
     ->ArgsProduct({{9, 10}, {0, 1}})
     ->ArgNames({"cartas", "curta"});
+
+// Both counts on the same hands in the same run: the ratio of their times is the speed-up.
+void ladoALado(benchmark::State& estado) {
+    auto maos = maosAoAcaso(2048, static_cast<int>(estado.range(0)));
+    const bool curta = estado.range(1) != 0;
+    using Relogio = std::chrono::steady_clock;
+    Relogio::duration literal{}, rapida{};
+    long contadas = 0;
+    for (auto _ : estado) {
+        int16 somaL = 0, somaR = 0;
+        const auto t0 = Relogio::now();
+        for (auto& m : maos)
+            somaL = static_cast<int16>(somaL + TemQuantosGruposLiteral(m, Lado::Jog, curta));
+        const auto t1 = Relogio::now();
+        for (auto& m : maos)
+            somaR = static_cast<int16>(somaR + TemQuantosGrupos(m, Lado::Jog, curta));
+        const auto t2 = Relogio::now();
+        if (somaL != somaR) estado.SkipWithError("the two counts disagree");
+        literal += t1 - t0;
+        rapida += t2 - t1;
+        contadas += static_cast<long>(maos.size());
+    }
+    const auto ns = [&](Relogio::duration d) {
+        return std::chrono::duration<double, std::nano>(d).count() / static_cast<double>(contadas);
+    };
+    estado.counters["literal_ns"] = ns(literal);
+    estado.counters["rapida_ns"] = ns(rapida);
+    estado.counters["aceleracao"] = ns(literal) / ns(rapida);
+}
+BENCHMARK(ladoALado)
+    ->Name("contagem/lado_a_lado")
+    ->ArgsProduct({{9, 10}, {0, 1}})
+    ->ArgNames({"cartas", "curta"})
+    ->Unit(benchmark::kMillisecond);
 
 } // namespace
 } // namespace corvina
