@@ -430,7 +430,8 @@ int16 TemQuantosGrupos(Mesa& mesa, Lado dequem, bool soTrincas) {
     int16 melhor = 0;
     std::size_t ultima = 0;
     for (std::size_t o = 0; o < ordens; ++o) {
-        ultima = o;
+        if (o + 1 == ordens) break; // the last order is searched in full below
+        ultima = o + 1;
         int16 valor = fixo;
         if (h.envolvidos != 0) {
             const std::uint64_t assinatura = posicoesDisputadas(h, o, pos);
@@ -444,10 +445,16 @@ int16 TemQuantosGrupos(Mesa& mesa, Lado dequem, bool soTrincas) {
             valor = static_cast<int16>(valor + valores[v]);
         }
         melhor = std::max(melhor, valor);
-        if (melhor >= kPontosVitoria) break;
+        if (melhor >= kPontosVitoria) {
+            ultima = o;
+            break;
+        }
     }
+    // The group list and the free slots are those of the last order searched, in its slots.
     posicoes(h, ultima, pos);
-    deixaResultado(mesa, dequem, Procura{h.dois, pos}.busca(h.todas, 0));
+    const Busca final = Procura{h.dois, pos}.busca(h.todas, 0);
+    melhor = std::max(melhor, final.pontos);
+    deixaResultado(mesa, dequem, final);
     return melhor;
 }
 
