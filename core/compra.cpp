@@ -2,13 +2,12 @@
 
 #include "core/novojogo.h"
 #include "core/pecas.h"
+#include "core/pilha.h"
 #include "core/textos.h"
 
 namespace corvina {
 
 namespace {
-inline constexpr int kMaximoNaPilhaAposTirar = 4;
-
 void recusaSegundaCompra(VistaMesa& v) {
     v.caixaMensagem(texto::kDevesDescartar, kEstiloInformacao, texto::kMovimentoNaoPermitido);
 }
@@ -83,14 +82,7 @@ void Discartado_Click(Jogo& jogo) {
     }
     voltaOrdenarAuto(jogo);
     if (jogo.modulo.tocarSom) v.tocaSom(som::kCarta1, false);
-    --jogo.modulo.qtdDescarte;
-    v.copiaFigura(peca::kDiscartado2, peca::kDiscartado);
-    copiaLugar(v, peca::kDiscartado2, peca::kDiscartado);
-    v.mostraPeca(peca::kDiscartado2, true);
-    v.copiaFigura(peca::kDiscartado, peca::kAntes);
-    if (jogo.modulo.qtdDescarte > kMaximoNaPilhaAposTirar)
-        jogo.modulo.qtdDescarte = kMaximoNaPilhaAposTirar;
-    v.MostraDiscarts();
+    tiraDaPilha(jogo);
     m.animando = true;
     voaPara(v, peca::kDiscartado2, peca::cj(kCasaCompra), voo::kCompraDoDescarte);
     v.mostraPeca(peca::kDiscartado2, false);

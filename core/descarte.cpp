@@ -6,6 +6,7 @@
 #include "core/finaliza.h"
 #include "core/novojogo.h"
 #include "core/pecas.h"
+#include "core/pilha.h"
 #include "core/textos.h"
 #include "machine/contagem.h"
 #include "machine/macjoga.h"
@@ -19,9 +20,7 @@ inline constexpr int kPerdaTolerada = 4;
 
 void voaParaPilha(Jogo& jogo) {
     VistaMesa& v = jogo.vista;
-    v.copiaFigura(peca::kAntes, peca::kDiscartado); // the present top goes under
-    v.MostraDiscarts();
-    ++jogo.modulo.qtdDescarte;
+    abreLugarNaPilha(jogo);
     v.copiaFigura(peca::kDiscartado2, peca::kPicmover);
     v.aplicaContorno(peca::kDiscartado2, kCorDaMesa);
     copiaLugar(v, peca::kDiscartado2, peca::kPicmover);

@@ -2,6 +2,7 @@
 
 #include "core/novojogo.h"
 #include "core/pecas.h"
+#include "core/pilha.h"
 #include "core/textos.h"
 #include "machine/tentativas.h"
 
@@ -14,13 +15,7 @@ void pegaDoDescarte(Jogo& jogo, int16 melhorCarta) {
     VistaMesa& v = jogo.vista;
     Mesa& m = jogo.mesa;
     if (jogo.modulo.tocarSom) v.tocaSom(som::kCarta3, false);
-    --jogo.modulo.qtdDescarte;
-    v.copiaFigura(peca::kDiscartado2, peca::kDiscartado);
-    copiaLugar(v, peca::kDiscartado2, peca::kDiscartado);
-    v.mostraPeca(peca::kDiscartado2, true);
-    v.copiaFigura(peca::kDiscartado, peca::kAntes);
-    if (jogo.modulo.qtdDescarte > 4) jogo.modulo.qtdDescarte = 4;
-    v.MostraDiscarts();
+    tiraDaPilha(jogo);
 
     m.animando = true;
     voaPara(v, peca::kDiscartado2, peca::cm(kCasaCompra), voo::kDescarte);
@@ -91,9 +86,7 @@ void macdiscarta(Jogo& jogo, int16 carta) {
     v.apresentacartasdamac(carta, carta);
     v.espera(pausa::kChegada);
     if (jogo.modulo.tocarSom) v.tocaSom(som::kCarta3, false);
-    v.copiaFigura(peca::kAntes, peca::kDiscartado);
-    v.MostraDiscarts();
-    ++jogo.modulo.qtdDescarte;
+    abreLugarNaPilha(jogo);
     v.copiaFigura(peca::kDiscartado2, peca::cm(carta));
     copiaLugar(v, peca::kDiscartado2, peca::cm(carta));
     v.mostraPeca(peca::kDiscartado2, true);
