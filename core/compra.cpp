@@ -34,6 +34,7 @@ void voltaOrdenarAuto(Jogo& jogo) {
 void costas2_Click(Jogo& jogo) {
     VistaMesa& v = jogo.vista;
     Mesa& m = jogo.mesa;
+    if (jogo.maosEmJogo) return;           // the machine is playing: the hands are not the player's
     v.habilitaPeca(peca::kCostas2, false); // no second click while this one runs
     v.escondeAviso();
     if (m.qtdJog == kCasaCompra) {
@@ -72,6 +73,7 @@ void costas2_Click(Jogo& jogo) {
 void Discartado_Click(Jogo& jogo) {
     VistaMesa& v = jogo.vista;
     Mesa& m = jogo.mesa;
+    if (jogo.maosEmJogo) return;
     v.habilitaPeca(peca::kDiscartado, false);
     v.escondeAviso();
     if (jogo.modulo.qtdDescarte == 0) return; // stays off until the next Habilita(True)

@@ -50,7 +50,9 @@ struct MaosEmJogo {
 Descarte descartaJog(Jogo& jogo, int16 posicao) {
     VistaMesa& v = jogo.vista;
     Mesa& m = jogo.mesa;
-    if (m.qtdJog != kCasaCompra || posicao < 1 || posicao > kCasaCompra) return Descarte::Recusado;
+    // A discard already under way (its flight lets events in) holds the hands.
+    if (jogo.maosEmJogo || m.qtdJog != kCasaCompra || posicao < 1 || posicao > kCasaCompra)
+        return Descarte::Recusado;
     MaosEmJogo guarda(jogo);
 
     v.Habilita(false);

@@ -6,7 +6,7 @@
 namespace corvina {
 
 enum class Descarte {
-    Recusado,   // not ten cards, or no such slot: nothing changed
+    Recusado,   // not ten cards, no such slot, or a discard under way: nothing changed
     Feito,      // the machine has played; the player is to draw again
     MaoTerminou // a side won, or the stock ran out: a new hand has been dealt
 };

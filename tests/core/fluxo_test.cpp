@@ -108,6 +108,25 @@ TEST(Descarte, RefusedWithoutTenCardsOrOutsideTheHand) {
     EXPECT_TRUE(t.vista.chamadas.empty());
 }
 
+TEST(Descarte, NothingReachesTheHandsWhileADiscardIsUnderWay) {
+    JogoDeTeste t;
+    t.arma(std::string(kJog) + " 13/1", kMac, "9/4", "1/3 8/3");
+    std::vector<Descarte> dentro;
+    int compras = 0;
+    t.vista.aCadaChamada = [&] {
+        if (t.vista.chamadas.empty() || t.vista.chamadas.back() != "destaca 0") return;
+        dentro.push_back(descartaJog(t.jogo, 2)); // as if a click got in during the flight
+        const int16 monte = t.jogo.mesa.qtdBaralho;
+        costas2_Click(t.jogo);
+        Discartado_Click(t.jogo);
+        compras += t.jogo.mesa.qtdBaralho != monte;
+    };
+    EXPECT_EQ(descartaJog(t.jogo, 1), Descarte::Feito);
+    EXPECT_EQ(dentro, std::vector<Descarte>{Descarte::Recusado});
+    EXPECT_EQ(compras, 0);
+    EXPECT_EQ(t.jogo.mesa.qtdJog, 9);
+}
+
 TEST(Descarte, ClosesTheGapThenTheMachinePlays) {
     JogoDeTeste t;
     t.arma(std::string(kJog) + " 13/1", kMac, "9/4", "1/3 8/3");
