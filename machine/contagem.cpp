@@ -428,10 +428,8 @@ int16 TemQuantosGrupos(Mesa& mesa, Lado dequem, bool soTrincas) {
     std::array<std::uint8_t, kTipos> pos;
     const int16 fixo = static_cast<int16>(h.fixoTrincas + h.fixoPares);
     int16 melhor = 0;
-    std::size_t ultima = 0;
-    for (std::size_t o = 0; o < ordens; ++o) {
-        if (o + 1 == ordens) break; // the last order is searched in full below
-        ultima = o + 1;
+    std::size_t ultima = ordens - 1; // searched in full below, whatever the others give
+    for (std::size_t o = 0; o < ultima; ++o) {
         int16 valor = fixo;
         if (h.envolvidos != 0) {
             const std::uint64_t assinatura = posicoesDisputadas(h, o, pos);
