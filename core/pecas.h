@@ -5,30 +5,30 @@
 
 namespace corvina::peca {
 
-inline constexpr Peca kPicmover{Sprite::Picmover};
-inline constexpr Peca kDiscartado2{Sprite::discartado2};
-inline constexpr Peca kDiscartado{Sprite::Discartado};
-inline constexpr Peca kCostas2{Sprite::costas2};
-inline constexpr Peca kCostas{Sprite::costas};
-inline constexpr Peca kLabel4{Sprite::Label4};
-inline constexpr Peca kPlacar1{Sprite::Placar1};
-inline constexpr Peca kPlacar2{Sprite::Placar2};
-inline constexpr Peca kAntes{Sprite::antes};
-inline constexpr Peca kVazio{Sprite::vazio};
+inline constexpr Peca kPicmover{Parte::Picmover};
+inline constexpr Peca kDiscartado2{Parte::discartado2};
+inline constexpr Peca kDiscartado{Parte::Discartado};
+inline constexpr Peca kCostas2{Parte::costas2};
+inline constexpr Peca kCostas{Parte::costas};
+inline constexpr Peca kLabel4{Parte::Label4};
+inline constexpr Peca kPlacar1{Parte::Placar1};
+inline constexpr Peca kPlacar2{Parte::Placar2};
+inline constexpr Peca kAntes{Parte::antes};
+inline constexpr Peca kVazio{Parte::vazio};
 constexpr Peca cj(int i) {
-    return {Sprite::cj, static_cast<int16>(i)};
+    return {Parte::cj, static_cast<int16>(i)};
 }
 constexpr Peca cm(int i) {
-    return {Sprite::cm, static_cast<int16>(i)};
+    return {Parte::cm, static_cast<int16>(i)};
 }
 constexpr Peca picture8(int i) {
-    return {Sprite::Picture8, static_cast<int16>(i)};
+    return {Parte::Picture8, static_cast<int16>(i)};
 }
 constexpr Peca picture3(int i) {
-    return {Sprite::Picture3, static_cast<int16>(i)};
+    return {Parte::Picture3, static_cast<int16>(i)};
 }
 constexpr Peca ramo(int valor) {
-    return {Sprite::ramo, static_cast<int16>(valor)};
+    return {Parte::ramo, static_cast<int16>(valor)};
 }
 
 } // namespace corvina::peca

@@ -12,7 +12,7 @@ namespace corvina {
 
 // The pictures of the table that the game names. Holders (antes, vazio, intermediario) and the
 // picture sets (faces, backs) only give and take pictures; the others also have a place.
-enum class Sprite : std::uint8_t {
+enum class Parte : std::uint8_t {
     Picmover,
     discartado2,
     Discartado,
@@ -36,7 +36,7 @@ enum class Sprite : std::uint8_t {
 };
 
 struct Peca {
-    Sprite sprite;
+    Parte parte;
     int16 indice = 0;
     friend constexpr bool operator==(const Peca&, const Peca&) = default;
 };

@@ -38,17 +38,17 @@ std::string nomeDaPeca(Peca peca) {
         "Picmover",      "discartado2", "Discartado", "costas2", "costas",  "cj",    "cm",
         "Picture8",      "Picture3",    "Label4",     "Placar1", "Placar2", "antes", "vazio",
         "intermediario", "coracao",     "copa",       "espada",  "ramo",    "tipotC"};
-    std::string nome = kNomes[static_cast<int>(peca.sprite)];
-    switch (peca.sprite) {
-    case Sprite::cj:
-    case Sprite::cm:
-    case Sprite::Picture8:
-    case Sprite::Picture3:
-    case Sprite::coracao:
-    case Sprite::copa:
-    case Sprite::espada:
-    case Sprite::ramo:
-    case Sprite::tipotC:
+    std::string nome = kNomes[static_cast<int>(peca.parte)];
+    switch (peca.parte) {
+    case Parte::cj:
+    case Parte::cm:
+    case Parte::Picture8:
+    case Parte::Picture3:
+    case Parte::coracao:
+    case Parte::copa:
+    case Parte::espada:
+    case Parte::ramo:
+    case Parte::tipotC:
         return nome + "(" + std::to_string(peca.indice) + ")";
     default:
         return nome;

@@ -22,9 +22,9 @@ class VistaVigia : public VistaNula {
   public:
     void copiaFigura(Peca destino, Peca origem) override {
         VistaNula::copiaFigura(destino, origem);
-        if (destino == Peca{Sprite::antes} && origem == Peca{Sprite::Discartado}) ++pilha;
-        if (destino == Peca{Sprite::Discartado} && origem == Peca{Sprite::antes}) --pilha;
-        if (destino == Peca{Sprite::Discartado} && origem == Peca{Sprite::vazio}) pilha = 0;
+        if (destino == Peca{Parte::antes} && origem == Peca{Parte::Discartado}) ++pilha;
+        if (destino == Peca{Parte::Discartado} && origem == Peca{Parte::antes}) --pilha;
+        if (destino == Peca{Parte::Discartado} && origem == Peca{Parte::vazio}) pilha = 0;
     }
     int pilha = 0;
 };

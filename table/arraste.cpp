@@ -1,0 +1,131 @@
+#include "table/arraste.h"
+
+#include <cmath>
+
+#include "core/descarte.h"
+#include "core/pecas.h"
+#include "core/textos.h"
+
+namespace corvina {
+
+namespace {
+inline constexpr double kDivisorDaAltura = 1.3;
+inline constexpr float kDivisorDaLargura = 5;
+inline constexpr float kLarguraDoPainel = 11295, kAlturaDoPainel = 6405;
+inline constexpr const char* kSomNegado = "\\denied2.wav";
+
+void voltaParaMao(Jogo& jogo, VistaDeCena& v, bool recusado) {
+    Mesa& m = jogo.mesa;
+    v.Habilita(false);
+    m.animando = true;
+    v.voaCarta(peca::kPicmover, m.xOrigem, m.yMao, voo::kVoltaParaMao);
+    v.apresentacartasdojog(m.cartaAtual, m.cartaAtual);
+    v.mostraPeca(peca::cj(m.cartaAtual), true);
+    v.mostraPeca(peca::kPicmover, false);
+    m.animando = false;
+    if (!recusado) m.destacada = kNenhumaDestacada; // the next mouse-over may raise any card
+    v.Habilita(true);
+}
+
+// The cards between the hole and slot i move one place towards the hole; i becomes the hole.
+void abreBuraco(Jogo& jogo, VistaDeCena& v, int i) {
+    Mesa& m = jogo.mesa;
+    const Carta naMao = cartaNa(m.jogValor, m.jogNaipe, m.cartaAtual);
+    const int passo = m.cartaAtual > i ? -1 : 1;
+    for (int j = m.cartaAtual; j != i; j += passo) {
+        poeCarta(m.jogValor, m.jogNaipe, j, cartaNa(m.jogValor, m.jogNaipe, j + passo));
+        v.apresentacartasdojog(static_cast<int16>(j), static_cast<int16>(j));
+    }
+    v.mostraPeca(peca::cj(m.cartaAtual), true);
+    m.cartaAtual = static_cast<int16>(i);
+    poeCarta(m.jogValor, m.jogNaipe, i, naMao);
+    v.mostraPeca(peca::cj(i), false);
+    m.xOrigem = static_cast<int16>(std::lround(v.cena()[peca::cj(i)].Left));
+}
+} // namespace
+
+bool naFaixaDaMao(float top, float altura, int16 yMao) {
+    const auto b = static_cast<float>(yMao - altura / kDivisorDaAltura);
+    return b <= top;
+}
+
+bool ficaNaMao(int16 cartaAtual, int16 cartaOrigem, int16 qtdJog, float top, float altura,
+               int16 yMao) {
+    return (cartaAtual != cartaOrigem && naFaixaDaMao(top, altura, yMao)) ||
+           (qtdJog == kCasaCompra && top >= yMao);
+}
+
+void cj_MouseMove(Jogo& jogo, VistaDeCena& v, int16 index) {
+    Mesa& m = jogo.mesa;
+    if (m.animando || m.destacada == index) return;
+    if (jogo.modulo.animarCartas) v.destaca(index);
+    if (m.slotSob == index) return;
+    m.slotSob = index;
+    Sprite& mover = v.cena()[peca::kPicmover];
+    const Sprite& carta = v.cena()[peca::cj(index)];
+    mover.Visible = false;
+    mover.Picture = carta.Picture;
+    mover.Top = carta.Top;
+    mover.Left = carta.Left;
+    v.mostraPeca(peca::kPicmover, true);
+    m.cartaAtual = index;
+}
+
+void Picmover_MouseDown(Jogo& jogo, VistaDeCena& v, int16 button, float x, float y) {
+    if (button != kBotaoEsquerdo) return;
+    Mesa& m = jogo.mesa;
+    v.mostraPeca(peca::cj(m.cartaAtual), false);
+    v.destaca(0);
+    m.arrastando = 1;
+    v.cena().paraFrente(peca::kPicmover);
+    m.mouseX = x;
+    m.mouseY = y;
+    m.xOrigem = static_cast<int16>(std::lround(v.cena()[peca::cj(m.cartaAtual)].Left));
+    m.cartaOrigem = m.cartaAtual;
+    v.escondeAviso();
+}
+
+void Picmover_MouseMove(Jogo& jogo, VistaDeCena& v, int16 button, float x, float y) {
+    Mesa& m = jogo.mesa;
+    if (button != kBotaoEsquerdo || m.animando || m.arrastando != 1) return;
+    Sprite& mover = v.cena()[peca::kPicmover];
+    float novoTop = mover.Top + (y - m.mouseY);
+    float novoLeft = mover.Left + (x - m.mouseX);
+    if (novoTop < 0) novoTop = 0;
+    if (novoLeft < 0) novoLeft = 0;
+    if (novoTop > kAlturaDoPainel - mover.Height) novoTop = kAlturaDoPainel - mover.Height;
+    if (novoLeft > kLarguraDoPainel - mover.Width) novoLeft = kLarguraDoPainel - mover.Width;
+    v.poeLugar(peca::kPicmover, {novoLeft, novoTop});
+    if (!naFaixaDaMao(mover.Top, mover.Height, m.yMao)) return; // above the band the row rests
+
+    const int limite = m.qtdJog;
+    for (int i = 1; i <= limite; ++i) {
+        const Sprite& c = v.cena()[peca::cj(i)];
+        if (i == m.cartaAtual || !c.Visible) continue;
+        const float L = c.Left, W = c.Width, P = mover.Left, PW = mover.Width;
+        // One event makes one shift at most: each range is narrower than a slot.
+        if (m.cartaAtual > i && P + W / kDivisorDaLargura < L && P + PW > L)
+            abreBuraco(jogo, v, i);
+        else if (m.cartaAtual < i && L + W / kDivisorDaLargura < P && L + W > P)
+            abreBuraco(jogo, v, i);
+    }
+}
+
+void Picmover_MouseUp(Jogo& jogo, VistaDeCena& v, int16 button) {
+    if (button != kBotaoEsquerdo) return;
+    Mesa& m = jogo.mesa;
+    m.slotSob = 0;
+    m.arrastando = 0;
+    const Sprite& mover = v.cena()[peca::kPicmover];
+    if (ficaNaMao(m.cartaAtual, m.cartaOrigem, m.qtdJog, mover.Top, mover.Height, m.yMao)) {
+        voltaParaMao(jogo, v, false);
+    } else if (m.qtdJog < kCasaCompra) {
+        if (jogo.modulo.tocarSom) v.tocaSom(kSomNegado, false);
+        v.mostraAviso(texto::kAntesPegue);
+        voltaParaMao(jogo, v, true);
+    } else {
+        descartaJog(jogo, m.cartaAtual);
+    }
+}
+
+} // namespace corvina
