@@ -1,0 +1,72 @@
+#pragma once
+// A table whose sprites are plain data and whose platform does nothing: the handlers of the
+// mouse and of the sort button run on it as they run on the screen.
+
+#include <string>
+#include <vector>
+
+#include "apoio/maos.h"
+#include "core/armazem_memoria.h"
+#include "table/vista_de_cena.h"
+
+namespace corvina::teste {
+
+class VistaDeCenaQuieta : public VistaDeCena {
+  public:
+    std::vector<std::string> mensagens;
+    std::vector<std::string> sons;
+    ArmazemMemoria armazem;
+    int esperas = 0;
+
+    int caixaMensagem(const std::string& texto, int, const std::string&) override {
+        mensagens.push_back(texto);
+        return kBotaoOk;
+    }
+    void preparaPlacar(const Placar&) override {}
+    void abreJanela(Janela) override {}
+    void tocaSom(const std::string& arquivo, bool) override { sons.push_back(arquivo); }
+    void espera(int) override { ++esperas; }
+    void processaEventos() override {}
+    std::string leAjuste(const std::string& chave, const std::string& nome,
+                         const std::string& padrao) override {
+        return armazem.le(chave, nome, padrao);
+    }
+    bool gravaAjuste(const std::string& chave, const std::string& nome,
+                     const std::string& valor) override {
+        return armazem.grava(chave, nome, valor);
+    }
+};
+
+struct MesaDeCena {
+    explicit MesaDeCena(std::uint64_t semente = 1) : acaso(semente), jogo(vista, acaso) {
+        vista.liga(jogo);
+        jogo.modulo.velocidade = 6;
+        jogo.modulo.animarCartas = true;
+        jogo.mesa.yMao = 4950;
+        jogo.mesa.destacada = 11;
+    }
+    // Both hands, the top of the pile and the stock (its last card drawn first), painted.
+    void arma(std::string_view jog, std::string_view mac, std::string_view topo = "9/4",
+              std::string_view monte = "1/3 8/3") {
+        poeMao(jogo.mesa, Lado::Jog, jog);
+        poeMao(jogo.mesa, Lado::Mac, mac);
+        const Carta c = cartas(topo).at(0);
+        jogo.mesa.discarteValor = c.valor;
+        jogo.mesa.discarteNaipe = c.naipe;
+        jogo.modulo.qtdDescarte = 1;
+        const auto m = cartas(monte);
+        for (std::size_t i = 0; i < m.size(); ++i)
+            poeCarta(jogo.mesa.baralhoValor, jogo.mesa.baralhoNaipe, static_cast<int>(i + 1), m[i]);
+        jogo.mesa.qtdBaralho = static_cast<int16>(m.size());
+        vista.apresentacartasdojog(1, jogo.mesa.qtdJog);
+        vista.apresentacartasdamac(1, 0);
+        vista.Habilita(true);
+    }
+    Sprite& sprite(Peca p) { return vista.cena()[p]; }
+
+    AcasoSemente acaso;
+    VistaDeCenaQuieta vista;
+    Jogo jogo;
+};
+
+} // namespace corvina::teste
