@@ -14,6 +14,7 @@
 #include "machine/ordenacao.h"
 #include "machine/tentativas.h"
 #include "machine/vale.h"
+#include "table/ordenar.h"
 
 namespace corvina::cli {
 
@@ -47,6 +48,10 @@ Requests and answers:
       -> {"jog":[9],"mac":[9],"stock":[86],"sortePercent":N|null}
          the deal of that shuffle (ids 1..104, each once), with the exchange's luck as
          given; sortePercent is what the luck was asked, null if it was not
+  {"op":"sortButton","hand":[9 or 10],"ordemAuto":N,"assistido":0|1,"avisoOrdenar":B}
+      -> {"hand":[...],"ordemAuto":N,"caption":"...","status":"..."|null,"win":B,
+          "messages":["..."]}   one press of the sort button; status null when the
+         trinca line was left alone, messages the texts of the boxes shown
   {"op":"selfplay","seed":S,"matches":N}
       -> {"matches":N,"hands":..,"handsWonJog":..,"handsWonMac":..,"handsNoWinner":..,
           "exchanges":..,"matchesWonJog":..,"matchesWonMac":..,"seconds":..}
@@ -228,6 +233,48 @@ json autojogo(const json& p) {
             {"seconds", r.segundos}};
 }
 
+// One press of the sort button on a hand; a win is reported with the hand as it won.
+json botaoOrdenar(const json& p) {
+    const auto mao = cartas(p, "hand", {9, 10});
+    AcasoSemente acaso(1);
+    VistaNula vista;
+    Jogo jogo(vista, acaso);
+    poeMao(jogo.mesa, Lado::Jog, mao);
+    poeMao(jogo.mesa, Lado::Mac, {mao.begin(), mao.begin() + kCartasNaMao});
+    jogo.mesa.ordemAuto = static_cast<int16>(inteiro(p, "ordemAuto", 0, 4));
+    jogo.modulo.assistido = static_cast<int16>(inteiro(p, "assistido", 0, 1));
+    jogo.modulo.avisoOrdenar = booleano(p, "avisoOrdenar");
+
+    std::string legenda = legendaDaOrdem(jogo.mesa.ordemAuto);
+    json status = nullptr, mensagens = json::array();
+    bool venceu = false;
+    std::vector<Carta> final;
+    int16 ordemFinal = 0;
+    vista.registra = true;
+    vista.aoPerguntar = [&](const std::string& texto) {
+        mensagens.push_back(texto);
+        return kBotaoOk;
+    };
+    vista.aoAbrirJanela = [&](Janela janela) {
+        if (janela != Janela::FrmPlacar || venceu) return;
+        venceu = true;
+        final = maoDaMesa(jogo.mesa, Lado::Jog);
+        ordemFinal = jogo.mesa.ordemAuto;
+    };
+    Label4_Click(jogo);
+    if (!venceu) {
+        final = maoDaMesa(jogo.mesa, Lado::Jog);
+        ordemFinal = jogo.mesa.ordemAuto;
+    }
+    for (const std::string& c : vista.chamadas) {
+        if (venceu && c.rfind("preparaPlacar", 0) == 0) break; // what came after is the next hand
+        if (c.rfind("legendaOrdenar ", 0) == 0) legenda = c.substr(15);
+        if (c.rfind("mostraTrincas ", 0) == 0) status = c.substr(14);
+    }
+    return {{"hand", paraJson(final)}, {"ordemAuto", ordemFinal}, {"caption", legenda},
+            {"status", status},        {"win", venceu},           {"messages", mensagens}};
+}
+
 json atende(const json& p) {
     if (!p.is_object()) throw PedidoInvalido("a request is a JSON object");
     const std::string op = texto(p, "op");
@@ -239,6 +286,7 @@ json atende(const json& p) {
     if (op == "turn") return vez(p);
     if (op == "deal") return distribuicao(p);
     if (op == "selfplay") return autojogo(p);
+    if (op == "sortButton") return botaoOrdenar(p);
     throw PedidoInvalido("unknown op \"" + op + "\"");
 }
 

@@ -54,6 +54,12 @@ INSTANTIATE_TEST_SUITE_P(
         Caso{
             R"({"op":"turn","hand":["1/1","3/2","5/3","7/4","9/1","11/2","13/3","2/4","6/1"],"pile":"10/4","stock":[]})",
             R"({"takes":"none","discard":0,"hand":["1/1","3/2","5/3","7/4","9/1","11/2","13/3","2/4","6/1"],"pile":"10/4"})"},
+        Caso{
+            R"({"op":"sortButton","hand":["7/1","2/2","7/2","9/4","7/3","11/1","3/4","12/2","5/3"],"ordemAuto":1,"assistido":1,"avisoOrdenar":true})",
+            R"({"hand":["7/3","7/1","7/2","5/3","3/4","9/4","11/1","2/2","12/2"],"ordemAuto":2,"caption":"Auto 2","status":"1 trinca","win":false,"messages":[]})"},
+        Caso{
+            R"({"op":"sortButton","hand":["13/4","1/4","7/3","6/2","12/4","5/2","7/2","4/2","7/1"],"ordemAuto":0,"assistido":1,"avisoOrdenar":true})",
+            R"({"hand":["1/4","12/4","13/4","4/2","5/2","6/2","7/3","7/2","7/1"],"ordemAuto":1,"caption":"Auto 1","status":"3 trincas","win":true,"messages":[]})"},
         // bad requests: an error that names the fault
         Caso{
             "not json",
