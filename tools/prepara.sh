@@ -8,6 +8,10 @@ pacotes=(
   libgtest-dev
   libbenchmark-dev
   nlohmann-json3-dev
+  qt6-base-dev
+  qt6-multimedia-dev
+  libgl-dev
+  fonts-dejavu-core
 )
 
 faltam=()

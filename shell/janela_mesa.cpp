@@ -1,0 +1,258 @@
+#include "shell/janela_mesa.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QTimer>
+#include <QWindow>
+
+#include "core/ativacao.h"
+#include "core/compra.h"
+#include "core/pecas.h"
+#include "table/arraste.h"
+#include "table/comandos.h"
+#include "table/ordenar.h"
+
+namespace corvina {
+
+namespace {
+// The table panel in the window, and the other places, in pixels (twips / 15).
+const QPoint kPainel(21, 123);
+const QRect kLabel1(33, 563, 517, 16);
+const QRect kStatus(577, 563, 95, 16);
+const QRect kLabel4(685, 563, 97, 17);
+const QRect kTitulo(0, 0, 676, 73);
+const QRect kMinimizar(709, 23, 33, 32);
+const QRect kSobre(679, 25, 24, 31);
+const QRect kBotoes[] = {{21, 80, 126, 30},  {154, 80, 121, 30}, {282, 80, 121, 30},
+                         {409, 80, 122, 30}, {537, 80, 118, 30}, {661, 80, 118, 30},
+                         {749, 23, 31, 31}};
+inline constexpr int kBotaoNovo = 1, kBotaoSair = 6, kBotaoFechar = 7;
+// Labels on the panel, in pixels from its corner.
+const QRect kLabel6(122, 299, 531, 15);
+const QRect kPlacar1(15, 288, 40, 34), kPlacar2(15, 110, 38, 34);
+const QRect kLabel10(114, 311, 20, 15), kLabel11(105, 107, 23, 15);
+
+int px(float twips) {
+    return static_cast<int>(std::floor(twips / kTwipsPorPixel));
+}
+
+Qt::CursorShape cursorDe(Ponteiro p) {
+    switch (p) {
+    case Ponteiro::proibido:
+        return Qt::ForbiddenCursor;
+    case Ponteiro::mao:
+        return Qt::PointingHandCursor;
+    default:
+        return Qt::ArrowCursor;
+    }
+}
+} // namespace
+
+JanelaMesa::JanelaMesa(Jogo& jogo, VistaQt& vista, const Imagens& imagens)
+    : jogo_(jogo), vista_(vista), imagens_(imagens) {
+    setWindowTitle("Corvina");
+    setWindowFlags(Qt::FramelessWindowHint | Qt::Window);
+    setFixedSize(800, 600);
+    setMouseTracking(true);
+    setFocusPolicy(Qt::StrongFocus);
+    vista_.tela(this);
+}
+
+QRect JanelaMesa::retanguloDa(Peca peca) const {
+    const Sprite& s = vista_.cena()[peca];
+    return QRect(kPainel.x() + px(s.Left), kPainel.y() + px(s.Top), px(s.Width), px(s.Height));
+}
+
+void JanelaMesa::paintEvent(QPaintEvent*) {
+    QPainter p(this);
+    p.drawPixmap(0, 0, imagens_.mesa());
+    const int aceso = jogo_.mesa.botaoAtivo;
+    if (aceso >= 1 && aceso <= 6)
+        p.drawPixmap(kBotoes[aceso - 1].topLeft(), imagens_.botaoAceso(aceso));
+    p.setClipRect(QRect(kPainel, QSize(753, 427)));
+    for (const Peca peca : vista_.cena().ordem()) {
+        const Sprite& s = vista_.cena()[peca];
+        if (!s.Visible || s.Picture == kSemFigura) continue;
+        // Cards over cards show what lies below at their corners.
+        const QPixmap& figura = s.contorno || peca == peca::kPicmover
+                                    ? imagens_.recortada(s.Picture)
+                                    : imagens_.da(s.Picture);
+        p.drawPixmap(retanguloDa(peca).topLeft(), figura);
+    }
+    p.setClipping(false);
+    desenhaTextos(p);
+}
+
+void JanelaMesa::desenhaTextos(QPainter& p) {
+    const Textos& t = vista_.cena().textos;
+    QFont f("DejaVu Sans");
+    f.setPixelSize(12);
+    p.setFont(f);
+    p.setPen(QColor(240, 230, 200));
+    p.drawText(kLabel1, Qt::AlignLeft | Qt::AlignVCenter, QString::fromStdString(t.prompt));
+    if (t.statusVisivel) {
+        p.setPen(QColor(250, 214, 90));
+        p.drawText(kStatus, Qt::AlignCenter, QString::fromStdString(t.status));
+    }
+    if (vista_.cena()[peca::kLabel4].Visible) {
+        p.setPen(QColor(240, 240, 240));
+        f.setBold(true);
+        p.setFont(f);
+        p.drawText(kLabel4, Qt::AlignCenter, QString::fromStdString(t.label4));
+    }
+    p.translate(kPainel);
+    if (t.avisoVisivel) {
+        f.setBold(true);
+        p.setFont(f);
+        p.setPen(QColor(255, 236, 120));
+        p.drawText(kLabel6, Qt::AlignCenter, QString::fromStdString(t.aviso));
+    }
+    QFont grande("DejaVu Sans");
+    grande.setPixelSize(26);
+    grande.setBold(true);
+    p.setFont(grande);
+    p.setPen(QColor(250, 250, 240));
+    if (vista_.cena()[peca::kPlacar1].Visible)
+        p.drawText(kPlacar1, Qt::AlignCenter, QString::fromStdString(t.placar1));
+    if (vista_.cena()[peca::kPlacar2].Visible)
+        p.drawText(kPlacar2, Qt::AlignCenter, QString::fromStdString(t.placar2));
+    if (jogo_.mesa.mostraContagem) {
+        f.setBold(false);
+        p.setFont(f);
+        p.setPen(QColor(255, 255, 255));
+        p.drawText(kLabel10, Qt::AlignCenter, QString::fromStdString(t.label10));
+        p.drawText(kLabel11, Qt::AlignCenter, QString::fromStdString(t.label11));
+    }
+}
+
+std::optional<Peca> JanelaMesa::spriteEm(QPoint ponto) const {
+    const auto& ordem = vista_.cena().ordem();
+    for (auto it = ordem.rbegin(); it != ordem.rend(); ++it) {
+        const Sprite& s = vista_.cena()[*it];
+        if (!s.Visible || !retanguloDa(*it).contains(ponto)) continue;
+        // A sprite that is not enabled gets no mouse events; nor does what lies under it.
+        if (!s.Enabled) return std::nullopt;
+        return *it;
+    }
+    return std::nullopt;
+}
+
+JanelaMesa::Toque JanelaMesa::tocado(QPoint p) const {
+    if (const auto s = spriteEm(p)) return {Alvo::Sprite, *s, 0};
+    if (kLabel4.contains(p) && vista_.cena()[peca::kLabel4].Visible &&
+        vista_.cena()[peca::kLabel4].Enabled)
+        return {Alvo::Ordenar};
+    for (int i = 0; i < 7; ++i)
+        if (kBotoes[i].contains(p)) return {Alvo::Botao, Peca{Parte::vazio}, i + 1};
+    if (kMinimizar.contains(p)) return {Alvo::Minimizar};
+    if (kSobre.contains(p)) return {Alvo::Sobre};
+    if (kTitulo.contains(p)) return {Alvo::Titulo};
+    return {};
+}
+
+QPointF JanelaMesa::dentroDoMover(QPoint p) const {
+    const Sprite& m = vista_.cena()[peca::kPicmover];
+    return {(p.x() - kPainel.x()) * kTwipsPorPixel - m.Left,
+            (p.y() - kPainel.y()) * kTwipsPorPixel - m.Top};
+}
+
+void JanelaMesa::mouseMoveEvent(QMouseEvent* e) {
+    const QPoint p = e->position().toPoint();
+    if (arrastandoMover_) {
+        if (e->buttons() & Qt::LeftButton) {
+            const QPointF x = dentroDoMover(p);
+            Picmover_MouseMove(jogo_, vista_, kBotaoEsquerdo, static_cast<float>(x.x()),
+                               static_cast<float>(x.y()));
+        }
+        return;
+    }
+    const Toque t = tocado(p);
+    vista_.Premover(static_cast<int16>(t.alvo == Alvo::Botao && t.botao <= 6 ? t.botao : 0));
+    if (t.alvo == Alvo::Sprite && t.peca.parte == Parte::cj)
+        cj_MouseMove(jogo_, vista_, t.peca.indice);
+    const Toque depois = tocado(p); // the mover may now lie under the mouse
+    if (depois.alvo == Alvo::Sprite)
+        setCursor(cursorDe(vista_.cena()[depois.peca].MousePointer));
+    else
+        setCursor(depois.alvo == Alvo::Nada || depois.alvo == Alvo::Titulo
+                      ? Qt::ArrowCursor
+                      : Qt::PointingHandCursor);
+}
+
+void JanelaMesa::mousePressEvent(QMouseEvent* e) {
+    if (e->button() != Qt::LeftButton) return;
+    const QPoint p = e->position().toPoint();
+    pressionado_ = tocado(p);
+    if (pressionado_.alvo == Alvo::Sprite && pressionado_.peca == peca::kPicmover) {
+        arrastandoMover_ = true;
+        const QPointF x = dentroDoMover(p);
+        Picmover_MouseDown(jogo_, vista_, kBotaoEsquerdo, static_cast<float>(x.x()),
+                           static_cast<float>(x.y()));
+    } else if (pressionado_.alvo == Alvo::Titulo && windowHandle()) {
+        windowHandle()->startSystemMove(); // the title strip drags the borderless window
+    }
+}
+
+void JanelaMesa::mouseReleaseEvent(QMouseEvent* e) {
+    if (e->button() != Qt::LeftButton) return;
+    if (arrastandoMover_) {
+        arrastandoMover_ = false;
+        Picmover_MouseUp(jogo_, vista_, kBotaoEsquerdo);
+        return;
+    }
+    const Toque t = tocado(e->position().toPoint());
+    // A click is a press and a release on the same part.
+    if (t.alvo == pressionado_.alvo && t.peca == pressionado_.peca && t.botao == pressionado_.botao)
+        clique(t);
+    pressionado_ = {};
+}
+
+void JanelaMesa::clique(const Toque& t) {
+    switch (t.alvo) {
+    case Alvo::Sprite:
+        if (t.peca == peca::kCostas2) costas2_Click(jogo_);
+        if (t.peca == peca::kDiscartado) Discartado_Click(jogo_);
+        break;
+    case Alvo::Ordenar:
+        Label4_Click(jogo_);
+        break;
+    case Alvo::Botao:
+        if (t.botao == kBotaoNovo) novaPartida(jogo_);
+        if (t.botao == kBotaoSair || t.botao == kBotaoFechar) close();
+        break;
+    case Alvo::Minimizar:
+        showMinimized();
+        break;
+    case Alvo::Sobre:
+        vista_.abreJanela(Janela::FrmSobre);
+        break;
+    default:
+        break;
+    }
+}
+
+void JanelaMesa::keyPressEvent(QKeyEvent* e) {
+    if (e->key() < Qt::Key_F1 || e->key() > Qt::Key_F10) return QWidget::keyPressEvent(e);
+    const int codigo = kTeclaF1 + (e->key() - Qt::Key_F1);
+    const int shift = e->modifiers() == Qt::ControlModifier ? kShiftCtrl : 0;
+    if (Form_KeyDown(jogo_, codigo, shift) == PedidoDaTecla::Fechar) close();
+    update();
+}
+
+void JanelaMesa::showEvent(QShowEvent* e) {
+    QWidget::showEvent(e);
+    if (ativada_) return;
+    ativada_ = true;
+    // The first activation deals; it runs once the window is on the screen.
+    QTimer::singleShot(0, this, [this] { Form_Activate(jogo_); });
+}
+
+void JanelaMesa::closeEvent(QCloseEvent* e) {
+    Form_QueryUnload(jogo_);
+    Form_Unload(jogo_);
+    e->accept();
+}
+
+} // namespace corvina

@@ -1,0 +1,50 @@
+#pragma once
+// The table window: paints the scene and hands the mouse and the keys to the table's handlers.
+
+#include <QWidget>
+#include <optional>
+
+#include "core/jogo.h"
+#include "shell/imagens.h"
+#include "shell/vista_qt.h"
+
+namespace corvina {
+
+class JanelaMesa : public QWidget {
+  public:
+    JanelaMesa(Jogo& jogo, VistaQt& vista, const Imagens& imagens);
+
+    // Where a part of the table stands on the window, in pixels (for tests and the painter).
+    QRect retanguloDa(Peca peca) const;
+
+  protected:
+    void paintEvent(QPaintEvent*) override;
+    void mouseMoveEvent(QMouseEvent* e) override;
+    void mousePressEvent(QMouseEvent* e) override;
+    void mouseReleaseEvent(QMouseEvent* e) override;
+    void keyPressEvent(QKeyEvent* e) override;
+    void showEvent(QShowEvent* e) override;
+    void closeEvent(QCloseEvent* e) override;
+
+  private:
+    enum class Alvo { Nada, Sprite, Ordenar, Botao, Titulo, Minimizar, Sobre };
+    struct Toque {
+        Alvo alvo = Alvo::Nada;
+        Peca peca{Parte::vazio};
+        int botao = 0;
+    };
+    Toque tocado(QPoint p) const;
+    std::optional<Peca> spriteEm(QPoint p) const;
+    QPointF dentroDoMover(QPoint p) const; // twips inside Picmover
+    void desenhaTextos(QPainter& p);
+    void clique(const Toque& t);
+
+    Jogo& jogo_;
+    VistaQt& vista_;
+    const Imagens& imagens_;
+    Toque pressionado_;
+    bool arrastandoMover_ = false;
+    bool ativada_ = false;
+};
+
+} // namespace corvina

@@ -1,0 +1,38 @@
+#include "shell/splash.h"
+
+#include <QGuiApplication>
+#include <QPainter>
+#include <QScreen>
+
+namespace corvina {
+
+Splash::Splash(const QPixmap& figura, const QString& versao) : figura_(figura), versao_(versao) {
+    setWindowTitle("Corvina");
+    setWindowFlags(Qt::SplashScreen | Qt::FramelessWindowHint);
+    setFixedSize(500, 160);
+}
+
+void Splash::paintEvent(QPaintEvent*) {
+    QPainter p(this);
+    p.drawPixmap(0, 0, figura_);
+    QFont f("DejaVu Sans");
+    f.setPixelSize(12);
+    p.setFont(f);
+    p.setPen(QColor(246, 228, 164));
+    p.drawText(QRect(434, 18, 39, 17), Qt::AlignRight | Qt::AlignVCenter, versao_); // Label4
+}
+
+QString textoDaVersao(int major, int minor, int revisao) {
+    QString texto = QString("%1.%2").arg(major).arg(minor);
+    if (revisao != 0) texto += QString(".%1").arg(revisao);
+    return texto;
+}
+
+void CentraJanela(QWidget& janela) {
+    const QScreen* tela = janela.screen() ? janela.screen() : QGuiApplication::primaryScreen();
+    if (!tela) return;
+    const QRect area = tela->availableGeometry();
+    janela.move(area.center() - QPoint(janela.width() / 2, janela.height() / 2));
+}
+
+} // namespace corvina

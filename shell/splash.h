@@ -1,0 +1,26 @@
+#pragma once
+// FrmSplash: the picture and the version, for a second, before the table.
+
+#include <QWidget>
+
+namespace corvina {
+
+class Splash : public QWidget {
+  public:
+    Splash(const QPixmap& figura, const QString& versao);
+
+  protected:
+    void paintEvent(QPaintEvent*) override;
+
+  private:
+    const QPixmap& figura_;
+    QString versao_;
+};
+
+// Major.Minor, and .Revision when it isn't 0.
+QString textoDaVersao(int major, int minor, int revisao);
+
+// Centred on the screen it stands on.
+void CentraJanela(QWidget& janela);
+
+} // namespace corvina

@@ -1,0 +1,43 @@
+#pragma once
+// VistaMesa on the screen: the scene's operations, plus what only the platform does: message
+// boxes, the small windows, time, events and the store.
+
+#include <QWidget>
+#include <functional>
+
+#include "players/settings.h"
+#include "table/vista_de_cena.h"
+
+namespace corvina {
+
+class VistaQt : public VistaDeCena {
+  public:
+    explicit VistaQt(Settings& settings) : settings_(settings) {}
+
+    void tela(QWidget* w) { tela_ = w; }
+    // For tests only: no pauses, and message boxes and windows answer at once with OK.
+    void modoDeTeste(bool ligado) { teste_ = ligado; }
+    bool emModoDeTeste() const { return teste_; }
+
+    int caixaMensagem(const std::string& texto, int estilo, const std::string& titulo) override;
+    void preparaPlacar(const Placar& placar) override;
+    void abreJanela(Janela janela) override;
+    void tocaSom(const std::string& arquivo, bool aguarda) override;
+    void espera(int milissegundos) override;
+    void processaEventos() override;
+    std::string leAjuste(const std::string& chave, const std::string& nome,
+                         const std::string& padrao) override;
+    bool gravaAjuste(const std::string& chave, const std::string& nome,
+                     const std::string& valor) override;
+
+  protected:
+    void mudou() override;
+
+  private:
+    Settings& settings_;
+    QWidget* tela_ = nullptr;
+    bool teste_ = false;
+    Placar placar_;
+};
+
+} // namespace corvina

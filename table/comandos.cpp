@@ -1,0 +1,107 @@
+#include "table/comandos.h"
+
+#include "core/ajustes.h"
+#include "core/ativacao.h"
+#include "core/novojogo.h"
+#include "core/pecas.h"
+
+namespace corvina {
+
+namespace {
+inline constexpr int16 kVersos = 8;
+inline constexpr int kTeclaF2 = 113, kTeclaF3 = 114, kTeclaF7 = 118, kTeclaF8 = 119, kTeclaF9 = 120,
+                     kTeclaF10 = 121;
+inline constexpr int kBotaoSim = 6;
+inline constexpr const char* kFechar = "Deseja fechar o Corvina?";
+inline constexpr int kEstiloSimNao = 4;
+} // namespace
+
+void Form_Load(Jogo& jogo) {
+    VistaMesa& v = jogo.vista;
+    jogo.mesa.mostraContagem = false;
+    jogo.mesa.yMao = static_cast<int16>(v.lugar(peca::cj(1)).top);
+    jogo.mesa.destacada = kNenhumaDestacada;
+    leConfig(jogo);
+    // A stored back outside 1..8 has no picture: the stock keeps the one it had.
+    if (jogo.modulo.tipoCarta >= 1 && jogo.modulo.tipoCarta <= kVersos)
+        v.copiaFigura(peca::kCostas, {Parte::tipotC, jogo.modulo.tipoCarta});
+    for (int i = 0; i < 5; ++i) {
+        v.copiaFigura(peca::picture3(i), peca::kCostas);
+        v.aplicaContorno(peca::picture3(i), kCorDaMesa);
+    }
+    v.copiaFigura(peca::kCostas2, peca::kCostas);
+}
+
+void aplicaCostas(Jogo& jogo) {
+    VistaMesa& v = jogo.vista;
+    v.copiaFigura(peca::kCostas, {Parte::tipotC, jogo.modulo.tipoCarta});
+    v.apresentacartasdamac(1, 0);
+    v.copiaFigura(peca::kCostas2, peca::kCostas);
+    v.aplicaContorno(peca::kCostas2, kCorDaMesa);
+    for (int i = 0; i < 5; ++i) {
+        v.copiaFigura(peca::picture3(i), peca::kCostas);
+        v.aplicaContorno(peca::picture3(i), kCorDaMesa);
+    }
+}
+
+void novaPartida(Jogo& jogo) {
+    if (jogo.maosEmJogo) return;
+    VistaMesa& v = jogo.vista;
+    v.Premover(0);
+    v.abreJanela(Janela::FrmNome);
+    if (jogo.modulo.nomeCancelado) return; // the hand in progress goes on
+    v.mostraTrincas("");
+    v.mostraMesa();
+    jogo.modulo.pontosJog = 0;
+    jogo.modulo.pontosMac = 0;
+    novojogo(jogo);
+}
+
+PedidoDaTecla Form_KeyDown(Jogo& jogo, int keyCode, int shift) {
+    Module1& g = jogo.modulo;
+    switch (keyCode) {
+    case kTeclaF1:
+        if (shift != kShiftCtrl) break; // the hint, told in no menu
+        jogo.mesa.macete = !jogo.mesa.macete;
+        jogo.vista.apresentacartasdamac(1, 0);
+        break;
+    case kTeclaF3:
+        novaPartida(jogo);
+        break;
+    case kTeclaF7:
+    case kTeclaF8:
+        g.tipoCarta = static_cast<int16>(keyCode == kTeclaF7 ? g.tipoCarta - 1 : g.tipoCarta + 1);
+        if (g.tipoCarta < 1) g.tipoCarta = kVersos;
+        if (g.tipoCarta > kVersos) g.tipoCarta = 1;
+        aplicaCostas(jogo);
+        break;
+    case kTeclaF9:
+        jogo.mesa.mostraContagem = !jogo.mesa.mostraContagem;
+        break;
+    case kTeclaF10:
+        if (jogo.vista.caixaMensagem(kFechar, kEstiloSimNao, "") == kBotaoSim)
+            return PedidoDaTecla::Fechar;
+        break;
+    case kTeclaF2: // the card back window comes with the other windows
+    default:
+        break;
+    }
+    return PedidoDaTecla::Nenhum;
+}
+
+void Form_QueryUnload(Jogo& jogo) {
+    VistaMesa& v = jogo.vista;
+    const Module1& g = jogo.modulo;
+    const std::string base = chaveBase();
+    v.gravaAjuste(base, ajuste::kTipoCarta, std::to_string(g.tipoCarta));
+    v.gravaAjuste(base, ajuste::kVelocidade, std::to_string(g.velocidade));
+    v.gravaAjuste(base, ajuste::kTocarSom, textoBooleano(g.tocarSom));
+    v.gravaAjuste(base, ajuste::kTocarMusica, textoBooleano(g.tocarMusica));
+    v.gravaAjuste(base, ajuste::kAnimarCartas, textoBooleano(g.animarCartas));
+}
+
+void Form_Unload(Jogo& jogo) {
+    jogo.vista.gravaAjuste(chaveBase(), ajuste::kUltimoJogador, jogo.modulo.nomeJogador);
+}
+
+} // namespace corvina

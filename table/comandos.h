@@ -1,0 +1,31 @@
+#pragma once
+// The table's commands around the play: a new match, the card back, the hint, the counts, and
+// the settings written when the window closes.
+
+#include "core/jogo.h"
+
+namespace corvina {
+
+inline constexpr int kTeclaF1 = 112;
+inline constexpr int kShiftCtrl = 2;
+
+// The table window loads: the counts hidden, the row's height taken from the layout, the
+// settings read and the back put on the stock.
+void Form_Load(Jogo& jogo);
+
+// Puts the back tipoCarta on the stock, its edges and the machine's row.
+void aplicaCostas(Jogo& jogo);
+
+// A new match through the choice of player; the hand in progress is dropped unless the
+// choice is cancelled. Waits (does nothing) while the machine plays.
+void novaPartida(Jogo& jogo);
+
+// What a function key asks of the window around the table.
+enum class PedidoDaTecla { Nenhum, Fechar };
+PedidoDaTecla Form_KeyDown(Jogo& jogo, int keyCode, int shift);
+
+// The settings, and then the last player, written when the window closes.
+void Form_QueryUnload(Jogo& jogo);
+void Form_Unload(Jogo& jogo);
+
+} // namespace corvina

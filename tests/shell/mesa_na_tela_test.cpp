@@ -1,0 +1,125 @@
+// The real table window, offscreen: a whole hand played with Qt mouse events on the widget,
+// and a picture of the table saved under the build folder.
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QTemporaryDir>
+
+#include "core/ajustes.h"
+#include "core/pecas.h"
+#include "players/settings.h"
+#include "shell/imagens.h"
+#include "shell/janela_mesa.h"
+#include "table/comandos.h"
+
+namespace corvina {
+namespace {
+
+struct MesaNaTela {
+    QTemporaryDir pasta;
+    Settings settings{pasta.filePath("Corvina.conf")};
+    Imagens imagens{pastaDeImagens()};
+    VistaQt vista{settings};
+    AcasoSemente acaso{7};
+    Jogo jogo{vista, acaso};
+    JanelaMesa janela{jogo, vista, imagens};
+
+    MesaNaTela() {
+        vista.liga(jogo);
+        vista.modoDeTeste(true);
+        settings.grava(chaveBase(), ajuste::kPrimeiraVez, "1");
+        settings.grava(chaveBase(), ajuste::kUltimoJogador, "Teste");
+        Form_Load(jogo);
+        janela.show();
+        for (int i = 0; i < 5 && jogo.mesa.qtdJog == 0; ++i) QApplication::processEvents();
+    }
+
+    void envia(QEvent::Type tipo, QPoint ponto, Qt::MouseButton botao, Qt::MouseButtons botoes) {
+        QMouseEvent e(tipo, QPointF(ponto), janela.mapToGlobal(QPointF(ponto)), botao, botoes,
+                      Qt::NoModifier);
+        QApplication::sendEvent(&janela, &e);
+    }
+    void move(QPoint p, Qt::MouseButtons botoes = Qt::NoButton) {
+        envia(QEvent::MouseMove, p, Qt::NoButton, botoes);
+    }
+    void clica(QPoint p) {
+        move(p);
+        envia(QEvent::MouseButtonPress, p, Qt::LeftButton, Qt::LeftButton);
+        envia(QEvent::MouseButtonRelease, p, Qt::LeftButton, Qt::NoButton);
+    }
+    // Over the card, press, up above the row in steps, let go: the discard.
+    void descarta(int casa) {
+        const QPoint sobre = janela.retanguloDa(peca::cj(casa)).center();
+        move(sobre);
+        envia(QEvent::MouseButtonPress, sobre, Qt::LeftButton, Qt::LeftButton);
+        QPoint p = sobre;
+        for (int passo = 0; passo < 6; ++passo) {
+            p += QPoint(-10, -25);
+            move(p, Qt::LeftButton);
+        }
+        envia(QEvent::MouseButtonRelease, p, Qt::LeftButton, Qt::NoButton);
+    }
+};
+
+TEST(MesaNaTela, AWholeHandIsPlayedWithTheMouse) {
+    MesaNaTela t;
+    ASSERT_EQ(t.jogo.mesa.qtdJog, 9) << "the first activation dealt";
+    EXPECT_EQ(t.jogo.modulo.nomeJogador, "Teste");
+    const QRect monte = t.janela.retanguloDa(peca::kCostas2);
+
+    // A dragged card changes its place in the row.
+    const Carta primeira = cartaNa(t.jogo.mesa.jogValor, t.jogo.mesa.jogNaipe, 1);
+    const QPoint sobre = t.janela.retanguloDa(peca::cj(1)).center();
+    t.move(sobre);
+    t.envia(QEvent::MouseButtonPress, sobre, Qt::LeftButton, Qt::LeftButton);
+    t.move(sobre + QPoint(180, 0), Qt::LeftButton);
+    t.envia(QEvent::MouseButtonRelease, sobre + QPoint(180, 0), Qt::LeftButton, Qt::NoButton);
+    EXPECT_NE(cartaNa(t.jogo.mesa.jogValor, t.jogo.mesa.jogNaipe, 1), primeira);
+    EXPECT_EQ(cartaNa(t.jogo.mesa.jogValor, t.jogo.mesa.jogNaipe, 3), primeira);
+
+    // Draw from the stock, throw the drawn card, until a side wins or the stock runs out.
+    const int pontos = t.jogo.modulo.pontosJog + t.jogo.modulo.pontosMac;
+    bool acabou = false;
+    for (int vez = 0; vez < 60 && !acabou; ++vez) {
+        const int16 monteAntes = t.jogo.mesa.qtdBaralho;
+        t.clica(monte.center());
+        if (t.jogo.mesa.qtdJog != 10) {
+            acabou = true; // the stock was spent: a new hand was dealt
+            break;
+        }
+        EXPECT_EQ(t.jogo.mesa.qtdBaralho, monteAntes - 1);
+        t.descarta(10);
+        ASSERT_EQ(t.jogo.mesa.qtdJog, 9) << "the drop above the row discards";
+        acabou = t.jogo.modulo.pontosJog + t.jogo.modulo.pontosMac != pontos ||
+                 t.jogo.mesa.qtdBaralho > monteAntes;
+    }
+    EXPECT_TRUE(acabou) << "no hand ended in 60 turns";
+
+    // One more draw, so that the picture shows a hand of ten with a card raised.
+    t.clica(monte.center());
+    t.move(t.janela.retanguloDa(peca::cj(4)).center());
+    QApplication::processEvents();
+    const QString arquivo = QString(CORVINA_PASTA_DE_TESTE) + "/mesa.png";
+    EXPECT_TRUE(t.janela.grab().save(arquivo)) << arquivo.toStdString();
+}
+
+TEST(MesaNaTela, ClosingWritesTheSettingsAndTheLastPlayer) {
+    MesaNaTela t;
+    t.jogo.modulo.velocidade = 11;
+    t.janela.close();
+    EXPECT_EQ(t.settings.le(chaveBase(), "Velocidade", ""), "11");
+    EXPECT_EQ(t.settings.le(chaveBase(), "UltimoJogador", ""), "Teste");
+    EXPECT_EQ(t.settings.le(chaveBase(), "AnimarCartas", ""), "True");
+}
+
+} // namespace
+} // namespace corvina
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}
