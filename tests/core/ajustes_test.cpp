@@ -4,6 +4,7 @@
 #include "core/ajustes.h"
 #include "core/armazem_memoria.h"
 #include "core/ativacao.h"
+#include "core/caminhos.h"
 
 namespace corvina {
 namespace {
@@ -51,6 +52,14 @@ TEST(ArmazemMemoria, OddNamesAreTheirOwnKeys) {
         EXPECT_EQ(a.le(chaveJogador(nome), "Vitorias", "0"), std::to_string(++n)) << nome;
     EXPECT_EQ(a.le(chaveJogador("a"), "Vitorias", "0"), "0");
     EXPECT_EQ(a.le(chaveBase(), "Vitorias", "0"), "0");
+}
+
+TEST(Caminhos, NulsAndSeparators) {
+    EXPECT_EQ(TiraNulo(std::string("abc\0def", 7)), "abc");
+    EXPECT_EQ(TiraNulo("abc"), "abc");
+    EXPECT_EQ(CaminhoCurto("/usr/share/Meus Jogos/musica.mid"), "/usr/share/Meus Jogos/musica.mid");
+    EXPECT_EQ(semSeparadorFinal("/opt/corvina/"), "/opt/corvina");
+    EXPECT_EQ(semSeparadorFinal("/"), "/");
 }
 
 TEST(LeConfig, DefaultsAndStoredValues) {
