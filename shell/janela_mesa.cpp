@@ -5,11 +5,11 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTimer>
-#include <QWindow>
 
 #include "core/ativacao.h"
 #include "core/compra.h"
 #include "core/pecas.h"
+#include "shell/splash.h"
 #include "table/arraste.h"
 #include "table/comandos.h"
 #include "table/ordenar.h"
@@ -190,8 +190,8 @@ void JanelaMesa::mousePressEvent(QMouseEvent* e) {
         const QPointF x = dentroDoMover(p);
         Picmover_MouseDown(jogo_, vista_, kBotaoEsquerdo, static_cast<float>(x.x()),
                            static_cast<float>(x.y()));
-    } else if (pressionado_.alvo == Alvo::Titulo && windowHandle()) {
-        windowHandle()->startSystemMove(); // the title strip drags the borderless window
+    } else if (pressionado_.alvo == Alvo::Titulo) {
+        moveJanela(*this); // the title strip drags the borderless window
     }
 }
 

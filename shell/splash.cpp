@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 #include <QPainter>
 #include <QScreen>
+#include <QWindow>
 
 namespace corvina {
 
@@ -33,6 +34,14 @@ void CentraJanela(QWidget& janela) {
     if (!tela) return;
     const QRect area = tela->availableGeometry();
     janela.move(area.center() - QPoint(janela.width() / 2, janela.height() / 2));
+}
+
+} // namespace corvina
+
+namespace corvina {
+
+void moveJanela(QWidget& janela) {
+    if (QWindow* w = janela.windowHandle()) w->startSystemMove();
 }
 
 } // namespace corvina

@@ -23,4 +23,8 @@ QString textoDaVersao(int major, int minor, int revisao);
 // Centred on the screen it stands on.
 void CentraJanela(QWidget& janela);
 
+// Lets the window system drag a window that has no title bar, while the left button is held
+// on its handle.
+void moveJanela(QWidget& janela);
+
 } // namespace corvina
