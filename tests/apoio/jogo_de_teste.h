@@ -22,18 +22,7 @@ struct JogoDeTeste {
     // first, so its last card is drawn first).
     void arma(std::string_view jog, std::string_view mac, std::string_view topo = "",
               std::string_view monte = "") {
-        poeMao(jogo.mesa, Lado::Jog, jog);
-        poeMao(jogo.mesa, Lado::Mac, mac);
-        if (!topo.empty()) {
-            const Carta c = cartas(topo).at(0);
-            jogo.mesa.discarteValor = c.valor;
-            jogo.mesa.discarteNaipe = c.naipe;
-            jogo.modulo.qtdDescarte = 1;
-        }
-        const auto m = cartas(monte);
-        for (std::size_t i = 0; i < m.size(); ++i)
-            poeCarta(jogo.mesa.baralhoValor, jogo.mesa.baralhoNaipe, static_cast<int>(i + 1), m[i]);
-        jogo.mesa.qtdBaralho = static_cast<int16>(m.size());
+        armaMesa(jogo.mesa, jogo.modulo.qtdDescarte, jog, mac, topo, monte);
         vista.chamadas.clear();
     }
 

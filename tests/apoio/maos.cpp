@@ -32,6 +32,22 @@ std::string textoDaMao(Mesa& mesa, Lado lado) {
     return escreveCartas(lista);
 }
 
+void armaMesa(Mesa& mesa, int16& qtdDescarte, std::string_view jog, std::string_view mac,
+              std::string_view topo, std::string_view monte) {
+    poeMao(mesa, Lado::Jog, jog);
+    poeMao(mesa, Lado::Mac, mac);
+    if (!topo.empty()) {
+        const Carta c = cartas(topo).at(0);
+        mesa.discarteValor = c.valor;
+        mesa.discarteNaipe = c.naipe;
+        qtdDescarte = 1;
+    }
+    const auto m = cartas(monte);
+    for (std::size_t i = 0; i < m.size(); ++i)
+        poeCarta(mesa.baralhoValor, mesa.baralhoNaipe, static_cast<int>(i + 1), m[i]);
+    mesa.qtdBaralho = static_cast<int16>(m.size());
+}
+
 std::string textoDosGrupos(const Mesa& mesa) {
     std::vector<Carta> lista;
     for (int i = 1; i <= mesa.qtdGrupo; ++i)

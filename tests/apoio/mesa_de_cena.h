@@ -48,16 +48,7 @@ struct MesaDeCena {
     // Both hands, the top of the pile and the stock (its last card drawn first), painted.
     void arma(std::string_view jog, std::string_view mac, std::string_view topo = "9/4",
               std::string_view monte = "1/3 8/3") {
-        poeMao(jogo.mesa, Lado::Jog, jog);
-        poeMao(jogo.mesa, Lado::Mac, mac);
-        const Carta c = cartas(topo).at(0);
-        jogo.mesa.discarteValor = c.valor;
-        jogo.mesa.discarteNaipe = c.naipe;
-        jogo.modulo.qtdDescarte = 1;
-        const auto m = cartas(monte);
-        for (std::size_t i = 0; i < m.size(); ++i)
-            poeCarta(jogo.mesa.baralhoValor, jogo.mesa.baralhoNaipe, static_cast<int>(i + 1), m[i]);
-        jogo.mesa.qtdBaralho = static_cast<int16>(m.size());
+        armaMesa(jogo.mesa, jogo.modulo.qtdDescarte, jog, mac, topo, monte);
         vista.apresentacartasdojog(1, jogo.mesa.qtdJog);
         vista.apresentacartasdamac(1, 0);
         vista.Habilita(true);

@@ -344,6 +344,19 @@ void desenhaBotao(QPainter& p, QRect area, const QString& palavra, bool aceso) {
     p.drawText(area, Qt::AlignCenter, palavra);
 }
 
+// The game's name in gold, with a soft shadow.
+void escreveNome(QPainter& p, QRect area, int tamanho) {
+    QFont f(fonte());
+    f.setPixelSize(tamanho);
+    f.setBold(true);
+    f.setLetterSpacing(QFont::AbsoluteSpacing, tamanho / 13);
+    p.setFont(f);
+    p.setPen(QColor(0, 0, 0, 115));
+    p.drawText(area.translated(3, 3), Qt::AlignLeft | Qt::AlignVCenter, "Corvina");
+    p.setPen(QColor(245, 227, 162));
+    p.drawText(area, Qt::AlignLeft | Qt::AlignVCenter, "Corvina");
+}
+
 QImage mesa() {
     QImage img(800, 600, QImage::Format_RGB32);
     QPainter p(&img);
@@ -357,15 +370,7 @@ QImage mesa() {
     titulo.setColorAt(0, QColor(24, 60, 40));
     titulo.setColorAt(1, QColor(10, 34, 22));
     p.fillRect(QRect(0, 0, 800, 73), titulo);
-    QFont f(fonte());
-    f.setPixelSize(40);
-    f.setBold(true);
-    f.setLetterSpacing(QFont::AbsoluteSpacing, 3);
-    p.setFont(f);
-    p.setPen(QColor(0, 0, 0, 120));
-    p.drawText(QRect(22, 12, 400, 50), Qt::AlignLeft | Qt::AlignVCenter, "Corvina");
-    p.setPen(QColor(244, 226, 160));
-    p.drawText(QRect(20, 10, 400, 50), Qt::AlignLeft | Qt::AlignVCenter, "Corvina");
+    escreveNome(p, QRect(20, 10, 400, 50), 40);
     desenhaNaipe(p, 1, QPointF(232, 30), 16, false, QColor(236, 80, 90));
     desenhaNaipe(p, 2, QPointF(252, 30), 16, false, QColor(236, 236, 236));
     desenhaNaipe(p, 3, QPointF(272, 30), 16, false, QColor(236, 80, 90));
@@ -438,15 +443,7 @@ QImage splash() {
         p.drawImage(QPointF(-35, -110), semCantos(cartas[i]));
         p.restore();
     }
-    QFont f(fonte());
-    f.setPixelSize(54);
-    f.setBold(true);
-    f.setLetterSpacing(QFont::AbsoluteSpacing, 4);
-    p.setFont(f);
-    p.setPen(QColor(0, 0, 0, 110));
-    p.drawText(QRect(193, 38, 300, 70), Qt::AlignLeft | Qt::AlignVCenter, "Corvina");
-    p.setPen(QColor(246, 228, 164));
-    p.drawText(QRect(190, 35, 300, 70), Qt::AlignLeft | Qt::AlignVCenter, "Corvina");
+    escreveNome(p, QRect(190, 35, 300, 70), 54);
     QFont s(fonte());
     s.setPixelSize(14);
     p.setFont(s);
