@@ -139,6 +139,15 @@ struct Busca {
     std::array<std::uint8_t, 9> grupo{}; // kinds, in the order the search took them
 };
 
+// One bit, at the start of its four, for each value held in two suits or more.
+Mascara valoresComDoisNaipes(Mascara porValor) {
+    constexpr Mascara kUm = 0x5555555555555555ULL, kDois = 0x3333333333333333ULL,
+                      kPrimeiro = 0x1111111111111111ULL;
+    const Mascara pares = (porValor & kUm) + ((porValor >> 1) & kUm);
+    const Mascara soma = (pares & kDois) + ((pares >> 2) & kDois); // suits held, per value
+    return ((soma >> 1) | (soma >> 2)) & kPrimeiro;
+}
+
 void achaCandidatos(Mao10& h) {
     Listas& l = h.todas;
     auto trio = [&](int a, int b, int d) {
@@ -156,11 +165,9 @@ void achaCandidatos(Mao10& h) {
 
     // Suits held per value: four bits a value in the value-rising mask, suit 4 first.
     const auto naipeDoBit = [](int r) { return r == 0 ? kNaipes : r; };
-    for (Mascara resto = h.m.valor[0]; resto;) {
+    for (Mascara resto = valoresComDoisNaipes(h.m.valor[0]); resto; resto &= resto - 1) {
         const int v = std::countr_zero(resto) / kNaipes + 1;
-        const auto s = static_cast<unsigned>(resto >> ((v - 1) * kNaipes)) & 0xFu;
-        resto &= ~(Mascara{0xF} << ((v - 1) * kNaipes));
-        if ((s & (s - 1)) == 0) continue; // fewer than two suits
+        const auto s = static_cast<unsigned>(h.m.valor[0] >> ((v - 1) * kNaipes)) & 0xFu;
         for (int r1 = 0; r1 < kNaipes; ++r1) {
             if (!(s >> r1 & 1)) continue;
             for (int r2 = r1 + 1; r2 < kNaipes; ++r2) {
@@ -201,19 +208,29 @@ void achaCandidatos(Mao10& h) {
 
 // Splits the candidates into those every order takes alike and those the order decides.
 void separaDisputadas(Mao10& h) {
-    std::array<std::uint8_t, kTipos> usos{};
+    // Kinds in one candidate, and kinds in more than one.
+    Mascara uma = 0, mais = 0;
+    const auto conta = [&](Mascara bits) {
+        mais |= uma & bits;
+        uma |= bits;
+    };
+    const auto bit = [](int t) { return Mascara{1} << t; };
     const Listas& l = h.todas;
-    for (int i = 0; i < l.qtdTrios; ++i)
-        ++usos[l.trios[i].a], ++usos[l.trios[i].b], ++usos[l.trios[i].c];
-    for (int i = 0; i < l.qtdDuplas; ++i) ++usos[l.duplas[i].a], ++usos[l.duplas[i].b];
-    for (int i = 0; i < l.qtdSeparadas; ++i) ++usos[l.separadas[i].a], ++usos[l.separadas[i].b];
+    for (int i = 0; i < l.qtdTrios; ++i) {
+        const Trio& t = l.trios[i];
+        conta(bit(t.a)), conta(bit(t.b)), conta(bit(t.c)); // one at a time: a trio has 3 kinds
+    }
+    for (int i = 0; i < l.qtdDuplas; ++i) conta(bit(l.duplas[i].a)), conta(bit(l.duplas[i].b));
+    for (int i = 0; i < l.qtdSeparadas; ++i)
+        conta(bit(l.separadas[i].a)), conta(bit(l.separadas[i].b));
+    const auto soAqui = [&](Mascara bits) { return (bits & mais) == 0; };
     const auto copias = [&](int t) { return 1 + static_cast<int>(h.dois >> t & 1); };
     const auto envolve = [&](int t) { h.envolvidos |= Mascara{1} << t; };
 
     Listas& d = h.disputadas;
     for (int i = 0; i < l.qtdTrios; ++i) {
         const Trio& t = l.trios[i];
-        if (usos[t.a] == 1 && usos[t.b] == 1 && usos[t.c] == 1) {
+        if (soAqui(bit(t.a) | bit(t.b) | bit(t.c))) {
             h.fixoTrincas = static_cast<int16>(
                 h.fixoTrincas + kPontosTrinca * std::min({copias(t.a), copias(t.b), copias(t.c)}));
             continue;
@@ -225,7 +242,7 @@ void separaDisputadas(Mao10& h) {
                              int& qtdPara, int16 valor) {
         for (int i = 0; i < qtd; ++i) {
             const Par& p = de[i];
-            if (!p.soNestaOrdem && usos[p.a] == 1 && usos[p.b] == 1) {
+            if (!p.soNestaOrdem && soAqui(bit(p.a) | bit(p.b))) {
                 h.fixoPares =
                     static_cast<int16>(h.fixoPares + valor * std::min(copias(p.a), copias(p.b)));
                 continue;
