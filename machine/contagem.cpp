@@ -126,6 +126,7 @@ struct Mao10 {
     Listas todas;
     Listas disputadas;
     int16 fixoTrincas = 0, fixoPares = 0; // points of the uncontested candidates
+    int16 tetoDisputado = 0;              // no order can make more of the contested ones
     Mascara envolvidos = 0;               // kinds of the contested candidates
     int qtdEnvolvidos = 0;
     std::array<std::uint8_t, kMaxCartas> listaEnvolvidos;
@@ -254,6 +255,15 @@ void separaDisputadas(Mao10& h) {
     reparte(l.duplas, l.qtdDuplas, d.duplas, d.qtdDuplas, kPontosDupla);
     reparte(l.separadas, l.qtdSeparadas, d.separadas, d.qtdSeparadas, kPontosDuplaSeparada);
 
+    // The most the contested cards could make: trincas first while three cards are left (a
+    // trinca is worth more than any pairs its cards could form), then duplas, then duplas
+    // separadas; each candidate at most twice, once for each copy.
+    const int cartas = std::popcount(h.envolvidos) + std::popcount(h.envolvidos & h.dois);
+    const int trincas = std::min(cartas / 3, 2 * d.qtdTrios);
+    const int duplas = std::min((cartas - 3 * trincas) / 2, 2 * d.qtdDuplas);
+    const int separadas = std::min((cartas - 3 * trincas) / 2 - duplas, 2 * d.qtdSeparadas);
+    h.tetoDisputado = static_cast<int16>(kPontosTrinca * trincas + kPontosDupla * duplas +
+                                         kPontosDuplaSeparada * separadas);
     for (Mascara resto = h.envolvidos; resto; resto &= resto - 1) {
         const int t = std::countr_zero(resto);
         h.listaEnvolvidos[h.qtdEnvolvidos++] = static_cast<std::uint8_t>(t);
@@ -464,6 +474,7 @@ int16 TemQuantosGrupos(Mesa& mesa, Lado dequem, bool soTrincas) {
             ultima = o;
             break;
         }
+        if (melhor >= fixo + h.tetoDisputado) break; // no later order can do better
     }
     // The group list and the free slots are those of the last order searched, in its slots.
     posicoes(h, ultima, pos);
