@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QBitmap>
 #include <QMouseEvent>
 #include <QTemporaryDir>
 
@@ -112,6 +113,28 @@ TEST(MesaNaTela, ClosingWritesTheSettingsAndTheLastPlayer) {
     EXPECT_EQ(t.settings.le(chaveBase(), "Velocidade", ""), "11");
     EXPECT_EQ(t.settings.le(chaveBase(), "UltimoJogador", ""), "Teste");
     EXPECT_EQ(t.settings.le(chaveBase(), "AnimarCartas", ""), "True");
+}
+
+TEST(Imagens, MissingPicturesLeaveStandInsAndTheGameGoesOn) {
+    const Imagens nenhuma("/nao/existe");
+    EXPECT_EQ(nenhuma.faltando(), 52 + 8 + 6 + 2);
+    EXPECT_EQ(nenhuma.da(figuraDaFace(2, 7)).size(), QSize(71, 96));
+    EXPECT_FALSE(nenhuma.mesa().isNull());
+    const Imagens todas(pastaDeImagens());
+    EXPECT_EQ(todas.faltando(), 0) << "assets/ holds every picture";
+}
+
+TEST(Imagens, TheOutlineCutsTheKeyColourExactlyAndNothingElse) {
+    QImage figura(4, 1, QImage::Format_RGB32);
+    figura.setPixel(0, 0, qRgb(21, 130, 64)); // the key
+    figura.setPixel(1, 0, qRgb(21, 130, 65)); // one shade away: stays
+    figura.setPixel(2, 0, qRgb(255, 255, 255));
+    figura.setPixel(3, 0, qRgb(21, 130, 64));
+    const QImage mascara = recorta(QPixmap::fromImage(figura)).mask().toImage();
+    EXPECT_EQ(mascara.pixelIndex(0, 0), 0);
+    EXPECT_EQ(mascara.pixelIndex(1, 0), 1);
+    EXPECT_EQ(mascara.pixelIndex(2, 0), 1);
+    EXPECT_EQ(mascara.pixelIndex(3, 0), 0);
 }
 
 } // namespace
