@@ -37,5 +37,6 @@ inline constexpr const char* kCarta3 = "\\cart3.wav";
 inline constexpr const char* kErro = "\\erro.wav";
 inline constexpr const char* kValeu = "\\valeu.wav";
 inline constexpr const char* kFinalC = "\\finalc.wav";
+inline constexpr const char* kNegado = "\\denied2.wav";
 
 } // namespace corvina::som

@@ -53,8 +53,11 @@ enum class Janela { FrmPlacar, FrmNome, FrmOpc, FrmRecords, frmtipos, FrmSobre }
 
 // Message box styles and the button it answers with.
 inline constexpr int kEstiloSimples = 0;
+inline constexpr int kEstiloSimNao = 4;
 inline constexpr int kEstiloInformacao = 64;
 inline constexpr int kBotaoOk = 1;
+inline constexpr int kBotaoSim = 6;
+inline constexpr int kBotaoNao = 7;
 
 inline constexpr std::uint32_t kCorDaMesa = 0x408215; // 0xBBGGRR, the key of card outlines
 

@@ -10,8 +10,6 @@
 namespace corvina {
 
 namespace {
-inline constexpr int kEstiloSimNao = 4;
-inline constexpr int kBotaoSim = 6, kBotaoNao = 7;
 inline constexpr const char* kSemNome = "Sem Nome";
 } // namespace
 

@@ -12,7 +12,6 @@ namespace {
 inline constexpr double kDivisorDaAltura = 1.3;
 inline constexpr float kDivisorDaLargura = 5;
 inline constexpr float kLarguraDoPainel = 11295, kAlturaDoPainel = 6405;
-inline constexpr const char* kSomNegado = "\\denied2.wav";
 
 void voltaParaMao(Jogo& jogo, VistaDeCena& v, bool recusado) {
     Mesa& m = jogo.mesa;
@@ -120,7 +119,7 @@ void Picmover_MouseUp(Jogo& jogo, VistaDeCena& v, int16 button) {
     if (ficaNaMao(m.cartaAtual, m.cartaOrigem, m.qtdJog, mover.Top, mover.Height, m.yMao)) {
         voltaParaMao(jogo, v, false);
     } else if (m.qtdJog < kCasaCompra) {
-        if (jogo.modulo.tocarSom) v.tocaSom(kSomNegado, false);
+        if (jogo.modulo.tocarSom) v.tocaSom(som::kNegado, false);
         v.mostraAviso(texto::kAntesPegue);
         voltaParaMao(jogo, v, true);
     } else {

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "core/textos.h"
 #include "core/vista_mesa.h"
 
 namespace corvina {
@@ -24,12 +25,6 @@ inline constexpr Figura kPrimeiroVerso = 100;
 constexpr Figura figuraDoVerso(int tipo) {
     return static_cast<Figura>(kPrimeiroVerso + tipo);
 }
-constexpr bool eFace(Figura f) {
-    return f >= 1 && f <= kCartasPorBaralho;
-}
-constexpr bool eVerso(Figura f) {
-    return f > kPrimeiroVerso && f <= kPrimeiroVerso + 8;
-}
 
 struct Sprite {
     float Left = 0, Top = 0;
@@ -43,15 +38,15 @@ struct Sprite {
 
 // The labels of the table.
 struct Textos {
-    std::string prompt = "Pegue uma carta no baralho"; // Label1, the window's first text
-    std::string aviso;                                 // Label6
+    std::string prompt = texto::kPegueNoBaralho; // Label1, the window's first text
+    std::string aviso;                           // Label6
     bool avisoVisivel = false;
     std::string status; // the trincas, in assisted mode
     bool statusVisivel = false;
     bool imgNTrincasVisivel = true;
     std::string placar1 = "0", placar2 = "0";
     std::string label10, label11;
-    std::string label4 = "Ordenar";
+    std::string label4 = texto::kOrdenar;
 };
 
 class Cena {

@@ -11,9 +11,7 @@ namespace {
 inline constexpr int16 kVersos = 8;
 inline constexpr int kTeclaF2 = 113, kTeclaF3 = 114, kTeclaF7 = 118, kTeclaF8 = 119, kTeclaF9 = 120,
                      kTeclaF10 = 121;
-inline constexpr int kBotaoSim = 6;
 inline constexpr const char* kFechar = "Deseja fechar o Corvina?";
-inline constexpr int kEstiloSimNao = 4;
 } // namespace
 
 void Form_Load(Jogo& jogo) {
