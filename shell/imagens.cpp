@@ -27,6 +27,10 @@ QString pastaDeImagens() {
     return programa + "/assets";
 }
 
+QString pastaDosSons() {
+    return pastaDeImagens() + "/sons";
+}
+
 QPixmap recorta(const QPixmap& figura) {
     QPixmap saida = figura;
     saida.setMask(figura.createMaskFromColor(kChave, Qt::MaskInColor));

@@ -33,6 +33,8 @@ class Imagens {
 
 // The folder of the pictures: beside the program, or where the build found them.
 QString pastaDeImagens();
+// The sounds and the music lie in a folder of their own there.
+QString pastaDosSons();
 
 // Where the key colour stands exactly, clear; anything one shade away stays.
 QPixmap recorta(const QPixmap& figura);

@@ -7,7 +7,9 @@
 #include "players/highcor.h"
 #include "players/settings.h"
 #include "shell/imagens.h"
+#include "shell/audio/musica_fluidsynth.h"
 #include "shell/janela_mesa.h"
+#include "shell/ondas_qt.h"
 #include "shell/splash.h"
 #include "shell/vista_qt.h"
 #include "table/comandos.h"
@@ -22,6 +24,10 @@ int main(int argc, char** argv) {
     const Imagens imagens(pastaDeImagens());
     Settings settings;
     VistaQt vista(settings);
+    OndasQt ondas;
+    MusicaFluidSynth musica;
+    Som som(pastaDosSons().toStdString(), ondas, musica);
+    vista.som(&som);
     AcasoDoRelogio acaso;
     Jogo jogo(vista, acaso);
     vista.liga(jogo);

@@ -55,7 +55,9 @@ void VistaQt::abreJanela(Janela janela) {
     }
 }
 
-void VistaQt::tocaSom(const std::string&, bool) {}
+void VistaQt::tocaSom(const std::string& arquivo, bool aguarda) {
+    if (som_) som_->tocaSom(arquivo, aguarda);
+}
 
 void VistaQt::espera(int milissegundos) {
     if (!teste_) QThread::msleep(static_cast<unsigned long>(milissegundos));

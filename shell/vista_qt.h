@@ -6,6 +6,7 @@
 #include <functional>
 
 #include "players/settings.h"
+#include "shell/audio/som.h"
 #include "table/vista_de_cena.h"
 
 namespace corvina {
@@ -15,6 +16,8 @@ class VistaQt : public VistaDeCena {
     explicit VistaQt(Settings& settings) : settings_(settings) {}
 
     void tela(QWidget* w) { tela_ = w; }
+    // The sound of the game; without one, silence.
+    void som(Som* s) { som_ = s; }
     // For tests only: no pauses, and message boxes and windows answer at once with OK.
     void modoDeTeste(bool ligado) { teste_ = ligado; }
     bool emModoDeTeste() const { return teste_; }
@@ -36,6 +39,7 @@ class VistaQt : public VistaDeCena {
   private:
     Settings& settings_;
     QWidget* tela_ = nullptr;
+    Som* som_ = nullptr;
     bool teste_ = false;
     Placar placar_;
 };

@@ -12,6 +12,9 @@ pacotes=(
   qt6-multimedia-dev
   libgl-dev
   fonts-dejavu-core
+  libfluidsynth-dev
+  libasound2-dev
+  timgm6mb-soundfont
 )
 
 faltam=()
