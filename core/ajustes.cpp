@@ -10,6 +10,8 @@ std::string chaveBase() {
 }
 
 std::string chaveJogador(std::string_view nome) {
+    // A key with a trailing separator is the key itself: an empty name's record is the base's.
+    if (nome.empty()) return chaveBase();
     return chaveBase() + "\\" + std::string(nome);
 }
 

@@ -11,7 +11,7 @@ std::pair<std::string, std::string> indice(const std::string& chave, const std::
 } // namespace
 
 std::string ArmazemMemoria::le(const std::string& chave, const std::string& nome,
-                               const std::string& padrao) const {
+                               const std::string& padrao) {
     const std::string* valor = bruto(chave, nome);
     if (valor == nullptr || valor->empty()) return padraoDeLeitura(padrao);
     return *valor;

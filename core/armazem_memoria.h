@@ -6,13 +6,16 @@
 #include <string>
 #include <utility>
 
+#include "core/armazem.h"
+
 namespace corvina {
 
-class ArmazemMemoria {
+class ArmazemMemoria : public Armazem {
   public:
     std::string le(const std::string& chave, const std::string& nome,
-                   const std::string& padrao) const;
-    bool grava(const std::string& chave, const std::string& nome, const std::string& valor);
+                   const std::string& padrao) override;
+    bool grava(const std::string& chave, const std::string& nome,
+               const std::string& valor) override;
     // The stored text as it is, empty included; nullptr when absent.
     const std::string* bruto(const std::string& chave, const std::string& nome) const;
 

@@ -2,7 +2,6 @@
 // highcor.dat: ten quoted names and ten numbers, made at the first start and read at each;
 // nothing else in the game uses it.
 
-#include <QString>
 #include <array>
 #include <string>
 
@@ -13,11 +12,9 @@ struct Highcor {
     std::array<long, 10> pontosArquivo{};
 };
 
-// The per-user data folder: the program's own folder may not be writable.
-QString pastaDoHighcor();
-
 // Creates the file if missing, fills an empty one with its 21 lines, and reads it. A folder
-// that can't be written leaves an empty table and the game goes on.
-Highcor preparaHighcor(const QString& pasta);
+// that can't be written, or a file that is not a small regular file, leaves an empty table,
+// and the file is left as it was.
+Highcor preparaHighcor(const std::string& pasta);
 
 } // namespace corvina

@@ -1,6 +1,7 @@
 #include "players/lugar_do_ajuste.h"
 
 #include "core/ajustes.h"
+#include "players/dobra_nome.h"
 
 namespace corvina {
 
@@ -21,10 +22,10 @@ std::string codifica(std::string_view texto) {
 }
 
 LugarDoAjuste lugarDoAjuste(std::string_view chave, std::string_view nome) {
-    const std::string base = dobraCaixa(chaveBase());
-    const std::string dobrada = dobraCaixa(chave);
+    const std::string base = dobraNome(chaveBase());
+    const std::string dobrada = dobraNome(chave);
     LugarDoAjuste l;
-    l.nome = codifica(dobraCaixa(nome));
+    l.nome = codifica(dobraNome(nome));
     if (dobrada == base) {
         l.grupo = "corvina";
     } else if (dobrada.size() > base.size() && dobrada.compare(0, base.size(), base) == 0 &&

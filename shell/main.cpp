@@ -5,7 +5,8 @@
 
 #include "core/jogo.h"
 #include "players/highcor.h"
-#include "players/settings.h"
+#include "players/qt/pastas.h"
+#include "players/qt/settings.h"
 #include "shell/imagens.h"
 #include "shell/audio/musica_fluidsynth.h"
 #include "shell/janela_mesa.h"
@@ -40,7 +41,7 @@ int main(int argc, char** argv) {
     constexpr int kEsperaDoSplash = 1000;
     QTimer::singleShot(kEsperaDoSplash, &mesa, [&] {
         Form_Load(jogo);
-        preparaHighcor(pastaDoHighcor());
+        preparaHighcor(pastaDeDados().toStdString());
         CentraJanela(mesa);
         mesa.show();
         splash.close();

@@ -5,7 +5,7 @@
 #include <QWidget>
 #include <functional>
 
-#include "players/settings.h"
+#include "players/qt/settings.h"
 #include "shell/audio/som.h"
 #include "table/vista_de_cena.h"
 

@@ -1,9 +1,13 @@
 # Fails when a source file under the given folders includes a Qt header.
-# Usage: cmake -DRAIZ=<source dir> -DPASTAS=core,machine -P checa_sem_qt.cmake
+# Usage: cmake -DRAIZ=<source dir> -DPASTAS=core,machine [-DEXCETO=players/qt] -P checa_sem_qt.cmake
 string(REPLACE "," ";" PASTAS "${PASTAS}")
+string(REPLACE "," ";" EXCETO "${EXCETO}")
 set(achados "")
 foreach(pasta IN LISTS PASTAS)
   file(GLOB_RECURSE fontes "${RAIZ}/${pasta}/*.h" "${RAIZ}/${pasta}/*.cpp")
+  foreach(fora IN LISTS EXCETO)
+    list(FILTER fontes EXCLUDE REGEX "^${RAIZ}/${fora}/")
+  endforeach()
   foreach(fonte IN LISTS fontes)
     file(STRINGS "${fonte}" linhas REGEX "^[ \t]*#[ \t]*include[ \t]*[<\"](Q[A-Za-z]|qt)")
     if(linhas)

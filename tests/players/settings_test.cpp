@@ -1,11 +1,16 @@
 #include <gtest/gtest.h>
 
+#include <QFileInfo>
 #include <QTemporaryDir>
+#include <fstream>
+#include <iterator>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include "core/ajustes.h"
 #include "players/highcor.h"
 #include "players/lugar_do_ajuste.h"
-#include "players/settings.h"
+#include "players/qt/settings.h"
 
 namespace corvina {
 namespace {
@@ -39,7 +44,8 @@ TEST_F(SettingsTest, KeysAndNamesIgnoreCaseAndSurviveARestart) {
 }
 
 TEST_F(SettingsTest, OddNamesAreStoredAndReadBackAsThemselves) {
-    const char* nomes[] = {"a/b", "..\\x", "Ação", "[General]", "x=y", "a\\Vitorias", "%41", "A"};
+    const char* nomes[] = {"a/b", "..\\x", "Ação",  "[General]", "x=y",  "a\\Vitorias",
+                           "%41", "A",     "Œuvre", "ΩMEGA",     "Ÿves", "😀 \t\"'"};
     {
         Settings s(arquivo());
         int n = 0;
@@ -57,6 +63,9 @@ TEST_F(SettingsTest, OddNamesAreStoredAndReadBackAsThemselves) {
     }
     EXPECT_EQ(s.le(chaveJogador("ação"), "Vitorias", "0"), "3") << "accents fold too";
     EXPECT_EQ(s.le(chaveJogador("a"), "Vitorias", "0"), "8");
+    EXPECT_EQ(s.le(chaveJogador("œuvre"), "Vitorias", "0"), "9") << "capitals fold in any alphabet";
+    EXPECT_EQ(s.le(chaveJogador("ωmega"), "Vitorias", "0"), "10");
+    EXPECT_EQ(s.le(chaveJogador("ÿves"), "Vitorias", "0"), "11");
     EXPECT_EQ(s.le(chaveBase(), "Vitorias", "0"), "0");
 }
 
@@ -73,7 +82,7 @@ TEST(LugarDoAjuste, NamesNeverBecomePathsOrSections) {
 
 TEST(Highcor, MadeOnceThenReadAndLeftAlone) {
     QTemporaryDir pasta;
-    preparaHighcor(pasta.path());
+    preparaHighcor(pasta.path().toStdString());
     QFile arquivo(pasta.filePath("highcor.dat"));
     ASSERT_TRUE(arquivo.open(QIODevice::ReadOnly));
     const QByteArray feito = arquivo.readAll();
@@ -84,7 +93,7 @@ TEST(Highcor, MadeOnceThenReadAndLeftAlone) {
     ASSERT_TRUE(arquivo.open(QIODevice::WriteOnly | QIODevice::Truncate));
     arquivo.write("\"Ana\"\r\n12\r\n\"Bia\",7\r\n");
     arquivo.close();
-    const Highcor h = preparaHighcor(pasta.path());
+    const Highcor h = preparaHighcor(pasta.path().toStdString());
     EXPECT_EQ(h.nomesArquivo[0], "Ana");
     EXPECT_EQ(h.pontosArquivo[0], 12);
     EXPECT_EQ(h.nomesArquivo[1], "Bia");
@@ -96,6 +105,48 @@ TEST(Highcor, MadeOnceThenReadAndLeftAlone) {
 TEST(Highcor, AFolderThatCantBeWrittenLeavesAnEmptyTable) {
     const Highcor h = preparaHighcor("/proc/corvina-nao-pode");
     EXPECT_EQ(h.nomesArquivo[0], "");
+}
+
+// What stands at the path is not to be trusted: none of these may hold up the start, grow
+// the memory, or be overwritten.
+TEST(Highcor, APipeADeviceOrAHugeFileIsLeftAloneAndReadAsEmpty) {
+    QTemporaryDir pasta;
+    const std::string dat = pasta.filePath("highcor.dat").toStdString();
+    ASSERT_EQ(::mkfifo(dat.c_str(), 0600), 0);
+    EXPECT_EQ(preparaHighcor(pasta.path().toStdString()).nomesArquivo[0], "");
+    EXPECT_TRUE(QFileInfo(pasta.filePath("highcor.dat")).isFile() == false);
+    ::unlink(dat.c_str());
+
+    ASSERT_EQ(::symlink("/dev/zero", dat.c_str()), 0);
+    EXPECT_EQ(preparaHighcor(pasta.path().toStdString()).nomesArquivo[0], "");
+    ::unlink(dat.c_str());
+
+    const std::string grande = "\"Ana\"\r\n12\r\n" + std::string(1 << 20, 'x');
+    { std::ofstream(dat, std::ios::binary) << grande; }
+    EXPECT_EQ(preparaHighcor(pasta.path().toStdString()).nomesArquivo[0], "");
+    std::ifstream f(dat, std::ios::binary);
+    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(f), {}), grande) << "kept as it was";
+}
+
+TEST_F(SettingsTest, APipeIsNeverOpenedAndAHugeFileIsMovedAside) {
+    ASSERT_EQ(::mkfifo(arquivo().toLocal8Bit().constData(), 0600), 0);
+    {
+        Settings s(arquivo());
+        EXPECT_FALSE(s.persistente());
+        s.grava(chaveBase(), "Velocidade", "3");
+        EXPECT_EQ(s.le(chaveBase(), "Velocidade", "6"), "3") << "kept for this run";
+    }
+    ::unlink(arquivo().toLocal8Bit().constData());
+
+    QFile f(arquivo());
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    f.write(QByteArray(3 << 20, 'x'));
+    f.close();
+    Settings s(arquivo());
+    EXPECT_TRUE(s.persistente());
+    EXPECT_EQ(QFileInfo(arquivo() + ".danificado").size(), 3 << 20)
+        << "nothing a person had is lost";
+    ASSERT_TRUE(s.grava(chaveBase(), "Velocidade", "3"));
 }
 
 } // namespace

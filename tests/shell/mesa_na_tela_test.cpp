@@ -10,7 +10,7 @@
 
 #include "core/ajustes.h"
 #include "core/pecas.h"
-#include "players/settings.h"
+#include "players/qt/settings.h"
 #include "shell/imagens.h"
 #include "shell/janela_mesa.h"
 #include "table/comandos.h"

@@ -1,0 +1,22 @@
+#pragma once
+// The words of the players' windows, exactly as the player reads them.
+
+namespace corvina::texto {
+
+inline constexpr const char* kSemNome = "Sem Nome";
+inline constexpr const char* kJogadorProposto = "Jogador";
+inline constexpr const char* kExcluir = "Excluir ";
+inline constexpr const char* kDesejaExcluir = "Deseja realmente excluir ";
+inline constexpr const char* kJaCadastrado = " já está cadastrado";
+inline constexpr const char* kJogarComEsteNome = "Deseja jogar com este nome?";
+inline constexpr const char* kZerarHall = "Deseja realmente zerar o Hall da Fama?";
+inline constexpr const char* kConfirmacao = "Confirmação";
+
+} // namespace corvina::texto
+
+namespace corvina::som {
+
+inline constexpr const char* kClique = "\\CLICK2.wav";
+inline constexpr const char* kApaga = "\\delete.wav "; // the blank is dropped when it is found
+
+} // namespace corvina::som
