@@ -8,6 +8,11 @@ namespace corvina {
 
 inline constexpr const char* kTitulo = "Corvina";
 
+inline constexpr int kVersos = 8;            // card backs 1..8
+inline constexpr int kVelocidadeMinima = 1;  // the fastest flights
+inline constexpr int kVelocidadeMaxima = 16; // the slowest
+inline constexpr int kVelocidadePadrao = 6;
+
 std::string chaveBase();                         // Software\Lunaris\Corvina
 std::string chaveJogador(std::string_view nome); // the name unchanged, below chaveBase
 

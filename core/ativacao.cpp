@@ -8,7 +8,6 @@ namespace corvina {
 
 namespace {
 inline constexpr const char* kTipoCartaPadrao = "4";
-inline constexpr const char* kVelocidadePadrao = "6";
 } // namespace
 
 void leConfig(Jogo& jogo) {
@@ -17,8 +16,11 @@ void leConfig(Jogo& jogo) {
     const std::string base = chaveBase();
     g.tipoCarta =
         static_cast<int16>(numeroDoTexto(v.leAjuste(base, ajuste::kTipocarta, kTipoCartaPadrao)));
-    g.velocidade =
-        static_cast<int16>(numeroDoTexto(v.leAjuste(base, ajuste::kVelocidade, kVelocidadePadrao)));
+    const long velocidade = numeroDoTexto(v.leAjuste(base, ajuste::kVelocidade, "6"));
+    // Only what the options window can set: another value would make a flight last minutes.
+    g.velocidade = static_cast<int16>(
+        velocidade >= kVelocidadeMinima && velocidade <= kVelocidadeMaxima ? velocidade
+                                                                           : kVelocidadePadrao);
     g.tocarSom = booleanoDoTexto(v.leAjuste(base, ajuste::kTocarSom, "True"));
     g.tocarMusica = booleanoDoTexto(v.leAjuste(base, ajuste::kTocarMusica, "False"));
     g.avisoOrdenar = booleanoDoTexto(v.leAjuste(base, ajuste::kAvisoOrdenar, "False"));

@@ -8,7 +8,6 @@
 namespace corvina {
 
 namespace {
-inline constexpr int16 kVersos = 8;
 inline constexpr int kTeclaF2 = 113, kTeclaF3 = 114, kTeclaF7 = 118, kTeclaF8 = 119, kTeclaF9 = 120,
                      kTeclaF10 = 121;
 inline constexpr const char* kFechar = "Deseja fechar o Corvina?";

@@ -4,7 +4,6 @@
 #include "core/ajustes.h"
 #include "core/armazem_memoria.h"
 #include "core/ativacao.h"
-#include "core/caminhos.h"
 
 namespace corvina {
 namespace {
@@ -24,44 +23,6 @@ TEST(BooleanoDoTexto, TrueFalseAndNumbers) {
     for (const auto& [texto, valor] : casos) EXPECT_EQ(booleanoDoTexto(texto), valor) << texto;
 }
 
-TEST(ArmazemMemoria, EmptyReadsAsDefaultAndTrueReadsAsOne) {
-    ArmazemMemoria a;
-    EXPECT_EQ(a.le("K", "v", "4"), "4");
-    EXPECT_EQ(a.le("K", "v", "tRuE"), "1");
-    a.grava("K", "v", "");
-    EXPECT_EQ(a.le("K", "v", "4"), "4");
-    a.grava("K", "v", "0");
-    EXPECT_EQ(a.le("K", "v", "4"), "0");
-}
-
-TEST(ArmazemMemoria, KeysAndNamesIgnoreCase) {
-    ArmazemMemoria a;
-    a.grava(chaveBase(), "TipoCarta", "7");
-    EXPECT_EQ(a.le("SOFTWARE\\lunaris\\corvina", "Tipocarta", "4"), "7");
-    a.grava(chaveJogador("AÇÃO"), "Vitorias", "2");
-    EXPECT_EQ(a.le(chaveJogador("ação"), "vitorias", "0"), "2");
-}
-
-TEST(ArmazemMemoria, OddNamesAreTheirOwnKeys) {
-    ArmazemMemoria a;
-    const char* nomes[] = {"a/b", "..\\x", "Ação", "[General]", "a\\Vitorias", "=", ""};
-    int n = 0;
-    for (const char* nome : nomes) a.grava(chaveJogador(nome), "Vitorias", std::to_string(++n));
-    n = 0;
-    for (const char* nome : nomes)
-        EXPECT_EQ(a.le(chaveJogador(nome), "Vitorias", "0"), std::to_string(++n)) << nome;
-    EXPECT_EQ(a.le(chaveJogador("a"), "Vitorias", "0"), "0");
-    EXPECT_EQ(a.le(chaveBase(), "Vitorias", "0"), "0");
-}
-
-TEST(Caminhos, NulsAndSeparators) {
-    EXPECT_EQ(TiraNulo(std::string("abc\0def", 7)), "abc");
-    EXPECT_EQ(TiraNulo("abc"), "abc");
-    EXPECT_EQ(CaminhoCurto("/usr/share/Meus Jogos/musica.mid"), "/usr/share/Meus Jogos/musica.mid");
-    EXPECT_EQ(semSeparadorFinal("/opt/corvina/"), "/opt/corvina");
-    EXPECT_EQ(semSeparadorFinal("/"), "/");
-}
-
 TEST(LeConfig, DefaultsAndStoredValues) {
     teste::JogoDeTeste t;
     leConfig(t.jogo);
@@ -79,6 +40,16 @@ TEST(LeConfig, DefaultsAndStoredValues) {
     EXPECT_EQ(t.jogo.modulo.tipoCarta, 1) << "a stored 0 gives back 1";
     EXPECT_TRUE(t.jogo.modulo.animarCartas) << "stored, never restored";
     EXPECT_FALSE(t.jogo.modulo.tocarSom) << "a text that isn't a Boolean leaves it off";
+
+    // Speeds the options window can't set would make a flight last minutes.
+    for (const char* v : {"0", "17", "32767", "-3"}) {
+        a.grava(chaveBase(), "Velocidade", v);
+        leConfig(t.jogo);
+        EXPECT_EQ(t.jogo.modulo.velocidade, 6) << v;
+    }
+    a.grava(chaveBase(), "Velocidade", "16");
+    leConfig(t.jogo);
+    EXPECT_EQ(t.jogo.modulo.velocidade, 16);
 }
 
 } // namespace
