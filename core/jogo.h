@@ -18,6 +18,8 @@ struct Jogo {
     // From the player's discard to the end of the machine's turn nothing may change the hands;
     // commands that would (a sort, a new match) must wait while this is set.
     bool maosEmJogo = false;
+    // The next choice of player was asked for from the toolbar: its cancel works.
+    bool cancelarNome = false;
     // Deals in which the machine took the player's better hand: for study, never shown.
     long trocasNaDistribuicao = 0;
 };

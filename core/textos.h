@@ -38,5 +38,7 @@ inline constexpr const char* kErro = "\\erro.wav";
 inline constexpr const char* kValeu = "\\valeu.wav";
 inline constexpr const char* kFinalC = "\\finalc.wav";
 inline constexpr const char* kNegado = "\\denied2.wav";
+inline constexpr const char* kClique = "\\CLICK2.wav";
+inline constexpr const char* kApaga = "\\delete.wav "; // the blank is dropped when it is found
 
 } // namespace corvina::som

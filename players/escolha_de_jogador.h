@@ -38,6 +38,8 @@ class EscolhaDeJogador {
     void cancelar();         // Label15
     void excluir();          // Label16
     void cadastrar();        // Label8
+    // Whatever closes the window: the music stops, the name at the table follows the selection.
+    void fecha();
     // A name registered in the new-player window joins the list shown.
     void adiciona(const std::string& nome) { lista_.push_back(nome); }
 
@@ -57,7 +59,6 @@ class EscolhaDeJogador {
     static constexpr std::size_t kLimite = 50;
     void preenche();
     void aoSelecionar(); // Combo1_Click
-    void fecha();        // whatever closes the window
 
     Module1& modulo_;
     Armazem& armazem_;

@@ -13,10 +13,3 @@ inline constexpr const char* kZerarHall = "Deseja realmente zerar o Hall da Fama
 inline constexpr const char* kConfirmacao = "Confirmação";
 
 } // namespace corvina::texto
-
-namespace corvina::som {
-
-inline constexpr const char* kClique = "\\CLICK2.wav";
-inline constexpr const char* kApaga = "\\delete.wav "; // the blank is dropped when it is found
-
-} // namespace corvina::som

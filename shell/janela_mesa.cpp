@@ -9,6 +9,7 @@
 #include "core/ativacao.h"
 #include "core/compra.h"
 #include "core/pecas.h"
+#include "shell/ajuda.h"
 #include "shell/splash.h"
 #include "table/arraste.h"
 #include "table/comandos.h"
@@ -28,7 +29,9 @@ const QRect kSobre(679, 25, 24, 31);
 const QRect kBotoes[] = {{21, 80, 126, 30},  {154, 80, 121, 30}, {282, 80, 121, 30},
                          {409, 80, 122, 30}, {537, 80, 118, 30}, {661, 80, 118, 30},
                          {749, 23, 31, 31}};
-inline constexpr int kBotaoNovo = 1, kBotaoSair = 6, kBotaoFechar = 7;
+// The patch over the status bar's divider, shown outside assisted mode.
+const QRect kImgNTrincas(566, 560, 10, 25);
+const QColor kBarra(30, 20, 12);
 // Labels on the panel, in pixels from its corner.
 const QRect kLabel6(122, 299, 531, 15);
 const QRect kPlacar1(15, 288, 40, 34), kPlacar2(15, 110, 38, 34);
@@ -92,6 +95,7 @@ void JanelaMesa::desenhaTextos(QPainter& p) {
     p.setFont(f);
     p.setPen(QColor(240, 230, 200));
     p.drawText(kLabel1, Qt::AlignLeft | Qt::AlignVCenter, QString::fromStdString(t.prompt));
+    if (t.imgNTrincasVisivel) p.fillRect(kImgNTrincas, kBarra);
     if (t.statusVisivel) {
         p.setPen(QColor(250, 214, 90));
         p.drawText(kStatus, Qt::AlignCenter, QString::fromStdString(t.status));
@@ -219,8 +223,7 @@ void JanelaMesa::clique(const Toque& t) {
         Label4_Click(jogo_);
         break;
     case Alvo::Botao:
-        if (t.botao == kBotaoNovo) novaPartida(jogo_);
-        if (t.botao == kBotaoSair || t.botao == kBotaoFechar) close();
+        atende(Btn_Click(jogo_, static_cast<int>(t.botao)));
         break;
     case Alvo::Minimizar:
         showMinimized();
@@ -237,7 +240,7 @@ void JanelaMesa::keyPressEvent(QKeyEvent* e) {
     if (e->key() < Qt::Key_F1 || e->key() > Qt::Key_F10) return QWidget::keyPressEvent(e);
     const int codigo = kTeclaF1 + (e->key() - Qt::Key_F1);
     const int shift = e->modifiers() == Qt::ControlModifier ? kShiftCtrl : 0;
-    if (Form_KeyDown(jogo_, codigo, shift) == PedidoDaTecla::Fechar) close();
+    atende(Form_KeyDown(jogo_, codigo, shift));
     update();
 }
 
@@ -249,10 +252,21 @@ void JanelaMesa::showEvent(QShowEvent* e) {
     QTimer::singleShot(0, this, [this] { Form_Activate(jogo_); });
 }
 
+void JanelaMesa::abreAjuda() {
+    iniciaAjuda(); // a help that isn't there: nothing happens
+}
+
+void JanelaMesa::atende(PedidoDaTecla pedido) {
+    if (pedido == PedidoDaTecla::Fechar) close();
+    if (pedido == PedidoDaTecla::Ajuda) abreAjuda();
+}
+
 void JanelaMesa::closeEvent(QCloseEvent* e) {
     Form_QueryUnload(jogo_);
     Form_Unload(jogo_);
     e->accept();
+    // Whatever was under way, a card's flight or the machine's turn, ends here with the run.
+    if (encerra_) encerra_();
 }
 
 } // namespace corvina

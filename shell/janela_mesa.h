@@ -2,17 +2,23 @@
 // The table window: paints the scene and hands the mouse and the keys to the table's handlers.
 
 #include <QWidget>
+#include <functional>
 #include <optional>
 
 #include "core/jogo.h"
 #include "shell/imagens.h"
 #include "shell/vista_qt.h"
+#include "table/comandos.h"
 
 namespace corvina {
 
 class JanelaMesa : public QWidget {
   public:
     JanelaMesa(Jogo& jogo, VistaQt& vista, const Imagens& imagens);
+
+    // What ends the program once the window has closed and the settings are written; by
+    // default nothing, so that a test can look at the store afterwards.
+    void aoEncerrar(std::function<void()> f) { encerra_ = std::move(f); }
 
     // Where a part of the table stands on the window, in pixels (for tests and the painter).
     QRect retanguloDa(Peca peca) const;
@@ -38,6 +44,8 @@ class JanelaMesa : public QWidget {
     QPointF dentroDoMover(QPoint p) const; // twips inside Picmover
     void desenhaTextos(QPainter& p);
     void clique(const Toque& t);
+    void atende(PedidoDaTecla pedido);
+    void abreAjuda();
 
     Jogo& jogo_;
     VistaQt& vista_;
@@ -45,6 +53,7 @@ class JanelaMesa : public QWidget {
     Toque pressionado_;
     bool arrastandoMover_ = false;
     bool ativada_ = false;
+    std::function<void()> encerra_;
 };
 
 } // namespace corvina

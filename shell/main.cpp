@@ -1,19 +1,58 @@
-// Corvina: the splash for a second, then the table.
+// Corvina: the splash for a second, the table prepared meanwhile, then the table.
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QTimer>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
 
 #include "core/jogo.h"
 #include "players/highcor.h"
 #include "players/qt/pastas.h"
 #include "players/qt/settings.h"
-#include "shell/imagens.h"
 #include "shell/audio/musica_fluidsynth.h"
+#include "shell/imagens.h"
 #include "shell/janela_mesa.h"
+#include "shell/janelas_qt.h"
 #include "shell/ondas_qt.h"
 #include "shell/splash.h"
 #include "shell/vista_qt.h"
 #include "table/comandos.h"
+
+namespace {
+
+// Everything the table needs, built while the splash is up.
+struct Programa {
+    corvina::Imagens imagens{corvina::pastaDeImagens()};
+    corvina::Settings settings;
+    corvina::VistaQt vista{settings};
+    corvina::OndasQt ondas;
+    corvina::MusicaFluidSynth musica;
+    corvina::Som som{corvina::pastaDosSons().toStdString(), ondas, musica};
+    corvina::AcasoDoRelogio acaso;
+    corvina::Jogo jogo{vista, acaso};
+    corvina::JanelasQt janelas;
+    corvina::JanelaMesa janela{jogo, vista, imagens};
+
+    explicit Programa(const QString& versao) : janelas(jogo, settings, &som, versao) {
+        vista.liga(jogo);
+        vista.som(&som);
+        vista.janelas(&janelas);
+        janelas.dono(&janela);
+        // The run ends with the window: no hand in progress is kept, nothing waits.
+        janela.aoEncerrar([] {
+            std::fflush(nullptr);
+            std::_Exit(0);
+        });
+        corvina::Form_Load(jogo);
+        corvina::preparaHighcor(corvina::pastaDeDados().toStdString());
+        corvina::CentraJanela(janela);
+        janela.grab(); // the first paint, so that showing it costs nothing more
+    }
+};
+
+} // namespace
 
 int main(int argc, char** argv) {
     using namespace corvina;
@@ -21,29 +60,21 @@ int main(int argc, char** argv) {
     QApplication::setOrganizationName("Lunaris");
     QApplication::setApplicationName("Corvina");
     QApplication::setApplicationVersion(CORVINA_VERSAO);
+    const QString versao =
+        textoDaVersao(CORVINA_VERSAO_MAJOR, CORVINA_VERSAO_MINOR, CORVINA_VERSAO_REVISAO);
 
-    const Imagens imagens(pastaDeImagens());
-    Settings settings;
-    VistaQt vista(settings);
-    OndasQt ondas;
-    MusicaFluidSynth musica;
-    Som som(pastaDosSons().toStdString(), ondas, musica);
-    vista.som(&som);
-    AcasoDoRelogio acaso;
-    Jogo jogo(vista, acaso);
-    vista.liga(jogo);
-    JanelaMesa mesa(jogo, vista, imagens);
-
-    Splash splash(imagens.splash(), textoDaVersao(CORVINA_VERSAO_MAJOR, CORVINA_VERSAO_MINOR,
-                                                  CORVINA_VERSAO_REVISAO));
+    const QPixmap figura = figuraDoSplash();
+    Splash splash(figura, versao);
     CentraJanela(splash);
     splash.show();
+    QElapsedTimer relogio;
+    relogio.start();
+    QApplication::processEvents(); // the splash is on the screen before any work starts
+
+    const auto mesa = std::make_unique<Programa>(versao);
     constexpr int kEsperaDoSplash = 1000;
-    QTimer::singleShot(kEsperaDoSplash, &mesa, [&] {
-        Form_Load(jogo);
-        preparaHighcor(pastaDeDados().toStdString());
-        CentraJanela(mesa);
-        mesa.show();
+    QTimer::singleShot(std::max<qint64>(0, kEsperaDoSplash - relogio.elapsed()), [&] {
+        mesa->janela.show();
         splash.close();
     });
     return QApplication::exec();

@@ -2,16 +2,13 @@
 
 #include <QAbstractButton>
 #include <QCoreApplication>
+#include <QEventLoop>
 #include <QMessageBox>
-#include <QThread>
+#include <QTimer>
 
 #include "core/ajustes.h"
 
 namespace corvina {
-
-namespace {
-inline constexpr const char* kSemNome = "Sem Nome";
-} // namespace
 
 int VistaQt::caixaMensagem(const std::string& texto, int estilo, const std::string& titulo) {
     if (teste_) return estilo == kEstiloSimNao ? kBotaoNao : kBotaoOk;
@@ -35,24 +32,10 @@ void VistaQt::preparaPlacar(const Placar& placar) {
 }
 
 void VistaQt::abreJanela(Janela janela) {
-    switch (janela) {
-    case Janela::FrmNome:
-        // Until the choice of player exists: the last player, or nobody yet.
-        jogo().modulo.nomeJogador = leAjuste(chaveBase(), ajuste::kUltimoJogador, kSemNome);
-        jogo().modulo.nomeCancelado = false;
-        break;
-    case Janela::FrmPlacar:
-        // A plain stand-in for the final-score window, so that a won hand is seen.
-        if (!teste_) {
-            const std::string texto = placar_.manchete + "\n\n" + jogo().modulo.nomeJogador + "  " +
-                                      std::to_string(placar_.pontosJog) + "  x  " +
-                                      std::to_string(placar_.pontosMac) + "  CPU";
-            caixaMensagem(texto, kEstiloInformacao, "Placar");
-        }
-        break;
-    default:
-        break; // the other windows come later
-    }
+    if (aoAbrirJanela) return aoAbrirJanela(janela);
+    if (janelas_) janelas_->abre(janela, placar_);
+    // The player chosen may play in another mode.
+    if (janela == Janela::FrmNome && !jogo().modulo.nomeCancelado) mostraMesa();
 }
 
 void VistaQt::tocaSom(const std::string& arquivo, bool aguarda) {
@@ -60,7 +43,11 @@ void VistaQt::tocaSom(const std::string& arquivo, bool aguarda) {
 }
 
 void VistaQt::espera(int milissegundos) {
-    if (!teste_) QThread::msleep(static_cast<unsigned long>(milissegundos));
+    if (teste_) return;
+    // The table is painted as it stands during the pause; the player's input waits for its end.
+    QEventLoop laco;
+    QTimer::singleShot(milissegundos, &laco, &QEventLoop::quit);
+    laco.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
 void VistaQt::processaEventos() {

@@ -7,6 +7,7 @@
 
 #include "players/qt/settings.h"
 #include "shell/audio/som.h"
+#include "shell/janelas_qt.h"
 #include "table/vista_de_cena.h"
 
 namespace corvina {
@@ -18,7 +19,11 @@ class VistaQt : public VistaDeCena {
     void tela(QWidget* w) { tela_ = w; }
     // The sound of the game; without one, silence.
     void som(Som* s) { som_ = s; }
-    // For tests only: no pauses, and message boxes and windows answer at once with OK.
+    // The small windows; without them a window closes at once.
+    void janelas(JanelasQt* j) { janelas_ = j; }
+    // For tests only: no pauses, and message boxes answer at once (OK, or Não); windows open
+    // through this when it is set.
+    std::function<void(Janela)> aoAbrirJanela;
     void modoDeTeste(bool ligado) { teste_ = ligado; }
     bool emModoDeTeste() const { return teste_; }
 
@@ -40,6 +45,7 @@ class VistaQt : public VistaDeCena {
     Settings& settings_;
     QWidget* tela_ = nullptr;
     Som* som_ = nullptr;
+    JanelasQt* janelas_ = nullptr;
     bool teste_ = false;
     Placar placar_;
 };

@@ -39,6 +39,8 @@ Cena::Cena() {
     costas2_.Left = costas_.Left = kEsquerdaMonte;
     costas2_.Top = costas_.Top = kTopoMonte;
     costas2_.Visible = costas_.Visible = true;
+    // The back the window was drawn with, kept when a stored back doesn't exist.
+    costas_.Picture = figuraDoVerso(kVersoDoDesenho);
     discartado_.Left = discartado2_.Left = kEsquerdaPilha;
     discartado_.Top = discartado2_.Top = kTopoPilha;
     picmover_.MousePointer = Ponteiro::proibido;

@@ -22,6 +22,7 @@ constexpr Figura figuraDaFace(int naipe, int valor) {
     return static_cast<Figura>((naipe - 1) * kValores + valor);
 }
 inline constexpr Figura kPrimeiroVerso = 100;
+inline constexpr int kVersoDoDesenho = 4;
 constexpr Figura figuraDoVerso(int tipo) {
     return static_cast<Figura>(kPrimeiroVerso + tipo);
 }

@@ -4,12 +4,13 @@
 #include "core/ativacao.h"
 #include "core/novojogo.h"
 #include "core/pecas.h"
+#include "core/textos.h"
 
 namespace corvina {
 
 namespace {
-inline constexpr int kTeclaF2 = 113, kTeclaF3 = 114, kTeclaF7 = 118, kTeclaF8 = 119, kTeclaF9 = 120,
-                     kTeclaF10 = 121;
+inline constexpr int kTeclaF2 = 113, kTeclaF3 = 114, kTeclaF4 = 115, kTeclaF5 = 116, kTeclaF6 = 117,
+                     kTeclaF7 = 118, kTeclaF8 = 119, kTeclaF9 = 120, kTeclaF10 = 121;
 inline constexpr const char* kFechar = "Deseja fechar o Corvina?";
 } // namespace
 
@@ -31,7 +32,9 @@ void Form_Load(Jogo& jogo) {
 
 void aplicaCostas(Jogo& jogo) {
     VistaMesa& v = jogo.vista;
-    v.copiaFigura(peca::kCostas, {Parte::tipotC, jogo.modulo.tipoCarta});
+    // A back that doesn't exist has no picture: costas keeps the one it had.
+    if (jogo.modulo.tipoCarta >= 1 && jogo.modulo.tipoCarta <= kVersos)
+        v.copiaFigura(peca::kCostas, {Parte::tipotC, jogo.modulo.tipoCarta});
     v.apresentacartasdamac(1, 0);
     v.copiaFigura(peca::kCostas2, peca::kCostas);
     v.aplicaContorno(peca::kCostas2, kCorDaMesa);
@@ -44,14 +47,50 @@ void aplicaCostas(Jogo& jogo) {
 void novaPartida(Jogo& jogo) {
     if (jogo.maosEmJogo) return;
     VistaMesa& v = jogo.vista;
+    jogo.cancelarNome = true;
     v.Premover(0);
     v.abreJanela(Janela::FrmNome);
+    jogo.cancelarNome = false;
     if (jogo.modulo.nomeCancelado) return; // the hand in progress goes on
     v.mostraTrincas("");
     v.mostraMesa();
     jogo.modulo.pontosJog = 0;
     jogo.modulo.pontosMac = 0;
     novojogo(jogo);
+}
+
+PedidoDaTecla Btn_Click(Jogo& jogo, int index) {
+    VistaMesa& v = jogo.vista;
+    if (jogo.modulo.tocarSom) v.tocaSom(som::kClique, false);
+    switch (index) {
+    case kBotaoNovo:
+        novaPartida(jogo);
+        break;
+    case kBotaoOpcoes:
+        v.Premover(0);
+        v.abreJanela(Janela::FrmOpc);
+        break;
+    case kBotaoRecordes:
+        v.Premover(0);
+        v.abreJanela(Janela::FrmRecords);
+        break;
+    case kBotaoCartas: {
+        const int16 antes = jogo.modulo.tipoCarta;
+        v.Premover(0);
+        v.abreJanela(Janela::frmtipos);
+        if (jogo.modulo.tipoCarta != antes) aplicaCostas(jogo);
+        break;
+    }
+    case kBotaoAjuda:
+        v.Premover(0);
+        return PedidoDaTecla::Ajuda; // started by the window; the table doesn't wait for it
+    case kBotaoSair:
+    case kBotaoFechar:
+        return PedidoDaTecla::Fechar; // no question
+    default:
+        break;
+    }
+    return PedidoDaTecla::Nenhum;
 }
 
 PedidoDaTecla Form_KeyDown(Jogo& jogo, int keyCode, int shift) {
@@ -62,9 +101,16 @@ PedidoDaTecla Form_KeyDown(Jogo& jogo, int keyCode, int shift) {
         jogo.mesa.macete = !jogo.mesa.macete;
         jogo.vista.apresentacartasdamac(1, 0);
         break;
+    case kTeclaF2:
+        return Btn_Click(jogo, kBotaoCartas);
     case kTeclaF3:
-        novaPartida(jogo);
-        break;
+        return Btn_Click(jogo, kBotaoNovo);
+    case kTeclaF4:
+        return Btn_Click(jogo, kBotaoOpcoes);
+    case kTeclaF5:
+        return Btn_Click(jogo, kBotaoRecordes);
+    case kTeclaF6:
+        return Btn_Click(jogo, kBotaoAjuda);
     case kTeclaF7:
     case kTeclaF8:
         g.tipoCarta = static_cast<int16>(keyCode == kTeclaF7 ? g.tipoCarta - 1 : g.tipoCarta + 1);
@@ -77,9 +123,8 @@ PedidoDaTecla Form_KeyDown(Jogo& jogo, int keyCode, int shift) {
         break;
     case kTeclaF10:
         if (jogo.vista.caixaMensagem(kFechar, kEstiloSimNao, "") == kBotaoSim)
-            return PedidoDaTecla::Fechar;
+            return Btn_Click(jogo, kBotaoSair);
         break;
-    case kTeclaF2: // the card back window comes with the other windows
     default:
         break;
     }

@@ -20,8 +20,15 @@ void aplicaCostas(Jogo& jogo);
 // choice is cancelled. Waits (does nothing) while the machine plays.
 void novaPartida(Jogo& jogo);
 
-// What a function key asks of the window around the table.
-enum class PedidoDaTecla { Nenhum, Fechar };
+// What a command asks of the window around the table: to close, or to start the help program.
+enum class PedidoDaTecla { Nenhum, Fechar, Ajuda };
+
+// The toolbar: 1 NOVO, 2 OPÇÕES, 3 RECORDES, 4 CARTAS, 5 AJUDA, 6 SAIR, 7 the closing square.
+inline constexpr int kBotaoNovo = 1, kBotaoOpcoes = 2, kBotaoRecordes = 3, kBotaoCartas = 4,
+                     kBotaoAjuda = 5, kBotaoSair = 6, kBotaoFechar = 7;
+PedidoDaTecla Btn_Click(Jogo& jogo, int index);
+
+// The function keys; only F2 to F10 and Ctrl+F1 do anything.
 PedidoDaTecla Form_KeyDown(Jogo& jogo, int keyCode, int shift);
 
 // The settings, and then the last player, written when the window closes.

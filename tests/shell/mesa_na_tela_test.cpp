@@ -30,6 +30,11 @@ struct MesaNaTela {
     MesaNaTela() {
         vista.liga(jogo);
         vista.modoDeTeste(true);
+        // The choice of player as the last one; the other windows close at once.
+        vista.aoAbrirJanela = [this](Janela j) {
+            if (j == Janela::FrmNome)
+                jogo.modulo.nomeJogador = settings.le(chaveBase(), ajuste::kUltimoJogador, "");
+        };
         settings.grava(chaveBase(), ajuste::kPrimeiraVez, "1");
         settings.grava(chaveBase(), ajuste::kUltimoJogador, "Teste");
         Form_Load(jogo);
@@ -117,8 +122,11 @@ TEST(MesaNaTela, ClosingWritesTheSettingsAndTheLastPlayer) {
 
 TEST(Imagens, MissingPicturesLeaveStandInsAndTheGameGoesOn) {
     const Imagens nenhuma("/nao/existe");
-    EXPECT_EQ(nenhuma.faltando(), 52 + 8 + 6 + 2);
+    EXPECT_EQ(nenhuma.faltando(), 52 + 8 + 6 + 1);
     EXPECT_EQ(nenhuma.da(figuraDaFace(2, 7)).size(), QSize(71, 96));
+    // A stand-in still shows which card it is.
+    EXPECT_NE(nenhuma.da(figuraDaFace(2, 7)).toImage(), nenhuma.da(figuraDaFace(2, 8)).toImage());
+    EXPECT_NE(nenhuma.da(figuraDaFace(1, 7)).toImage(), nenhuma.da(figuraDaFace(2, 7)).toImage());
     EXPECT_FALSE(nenhuma.mesa().isNull());
     const Imagens todas(pastaDeImagens());
     EXPECT_EQ(todas.faltando(), 0) << "assets/ holds every picture";

@@ -1,5 +1,6 @@
 // Draws every picture of Corvina: 52 faces and 8 backs of 71 by 96 pixels, the 800 by 600
-// table with its toolbar words, the six lit buttons, and the 500 by 160 splash.
+// table with its toolbar words, the six lit buttons, the 500 by 160 splash, and the surfaces
+// of the small windows.
 // Usage: corvina-gera-imagens <assets folder>. Its output is committed under assets/.
 
 #include <QColor>
@@ -11,8 +12,11 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QRadialGradient>
+#include <array>
 #include <cmath>
 #include <cstdio>
+
+#include "janelas.h"
 
 namespace {
 
@@ -481,5 +485,19 @@ int main(int argc, char** argv) {
     for (int i = 1; i <= 6; ++i)
         ok &= grava(botaoAceso(i), pasta.filePath(QString("btn2_%1.png").arg(i)));
     ok &= grava(splash(), pasta.filePath("splash.png"));
+    std::array<QImage, 8> versos;
+    for (int t = 1; t <= 8; ++t) versos[t - 1] = verso(t);
+    QDir().mkpath(pasta.filePath("janelas"));
+    const struct {
+        const char* nome;
+        QImage figura;
+    } janelas[] = {
+        {"frmnome", janelaNome()},         {"frmnovojogador", janelaNovoJogador()},
+        {"frmrecords", janelaRecords()},   {"frmopc", janelaOpcoes()},
+        {"frmtipos", janelaTipos(versos)}, {"frmsimnao", janelaSimNao()},
+        {"frmplacar", janelaPlacar()},     {"frmsobre", janelaSobre(versos[3])},
+    };
+    for (const auto& j : janelas)
+        ok &= grava(j.figura, pasta.filePath(QString("janelas/%1.png").arg(j.nome)));
     return ok ? 0 : 1;
 }

@@ -1,0 +1,162 @@
+#include "players/qt/frm_nome.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QMessageBox>
+#include <QTimer>
+
+#include "core/ajustes.h"
+#include "players/qt/frm_novo_jogador.h"
+#include "players/qt/janelas_figuras.h"
+
+namespace corvina {
+
+namespace {
+const char* const kEstiloLista =
+    "QComboBox { color: rgb(30,30,30); background: rgb(250,248,240); border: 1px solid "
+    "rgb(214,180,92); border-radius: 3px; padding-left: 6px; }"
+    "QComboBox QAbstractItemView { color: rgb(30,30,30); background: rgb(250,248,240); "
+    "selection-background-color: rgb(214,180,92); }";
+
+bool perguntaDoSistema(QWidget* dono, const std::string& texto) {
+    QMessageBox caixa(QMessageBox::Question, kTitulo, QString::fromStdString(texto),
+                      QMessageBox::Yes | QMessageBox::No, dono);
+    caixa.button(QMessageBox::Yes)->setText("Sim");
+    caixa.button(QMessageBox::No)->setText("Não");
+    return caixa.exec() == QMessageBox::Yes;
+}
+} // namespace
+
+FrmNome::FrmNome(QWidget* dono, Module1& modulo, Armazem& armazem, Som* som, bool cancelavel)
+    : JanelaDeFigura(dono, figuraDaJanela("frmnome"), {420, 288}), modulo_(modulo),
+      armazem_(armazem), som_(som),
+      escolha_(modulo, armazem,
+               {[this](const std::string& t) { return perguntaDoSistema(this, t); },
+                [this] { abreNovoJogador(); },
+                [this] {
+                    if (som_) som_->iniciaMusica(modulo_.tocarMusica);
+                },
+                [this] {
+                    if (som_) som_->paraMusica();
+                }}) {
+    setObjectName("FrmNome");
+    setWindowTitle(kTitulo);
+    alca(rotulo("Label1", "Informe quem vai jogar:", emPixels(510, 780, 4785, 255), 13, true));
+    combo1_ = new QComboBox(this);
+    combo1_->setObjectName("Combo1");
+    combo1_->setGeometry(emPixels(510, 1065, 5295, 360));
+    combo1_->setStyleSheet(kEstiloLista);
+    combo1_->setMaxVisibleItems(12);
+    const auto par = [this](const char* nc, const char* texto, int lc, const char* nv, int lv) {
+        rotulo(nc, texto, emPixels(lc, 1545, 1100, 255), 11, false, QColor(214, 200, 160));
+        return rotulo(nv, "0", emPixels(lv, 1785, 1100, 255), 13, true);
+    };
+    label10_ = par("Label2", "Jogos ", 930, "Label10", 930);
+    label4_ = par("Label3", "Vitórias", 2010, "Label4", 1890);
+    label5_ = par("Label11", "Derrotas", 3090, "Label5", 3330);
+    label7_ = par("Label6", "Saldo", 4395, "Label7", 4395);
+    label16_ = comando("Label16", "Excluir", emPixels(300, 2415, 2490, 255), [this] {
+        escolha_.excluir();
+        mostra();
+    });
+    label8_ = comando("Label8", "Cadastrar novo Jogador", emPixels(3180, 2415, 2715, 255), [this] {
+        escolha_.cadastrar();
+        mostra();
+    });
+    label8_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    check4_ = new QCheckBox(this);
+    check4_->setObjectName("Check4");
+    check4_->setGeometry(emPixels(840, 2910, 195 + 60, 210 + 60));
+    check4_->setCursor(Qt::PointingHandCursor);
+    const auto alterna = [this] {
+        escolha_.alternaAssistido();
+        mostra();
+    };
+    connect(check4_, &QCheckBox::clicked, this, alterna);
+    comando("Label12", "Modo assistido:Informa o nº de trincas formadas",
+            emPixels(1095, 2835, 4470, 255), alterna, 11);
+    comando("Label13", "Habilita o botão \"Auto ordenar cartas\"", emPixels(1095, 3030, 3015, 255),
+            alterna, 11);
+    rotulo("Label18", "O Jogo termina quando um lado fizer 4 pontos",
+           emPixels(180, 3435, 5655, 225), 11, false, QColor(214, 200, 160), Qt::AlignCenter);
+    comando("Label9", "Jogar", emPixels(4725, 3900, 1185, 255), [this] {
+        escolha_.jogar();
+        accept();
+    })->setAlignment(Qt::AlignCenter);
+    label15_ = comando("Label15", "Cancelar", emPixels(3090, 3900, 1185, 255), [this] {
+        escolha_.cancelar();
+        reject();
+    });
+    label15_->setAlignment(Qt::AlignCenter);
+    label14_ = rotulo("Label14", "Cancelar", emPixels(3090, 3900, 1185, 255), 12, true,
+                      QColor(64, 64, 64), Qt::AlignCenter);
+    connect(combo1_, &QComboBox::activated, this, [this](int i) {
+        if (mostrando_) return;
+        escolha_.selecionaLinha(i);
+        mostra();
+    });
+
+    escolha_.carrega(cancelavel);
+    label15_->setVisible(cancelavel);
+    label14_->setVisible(!cancelavel);
+    mostra();
+    vigiaTeclas();
+    centraNaTela();
+}
+
+void FrmNome::mostra() {
+    mostrando_ = true;
+    const auto& lista = escolha_.lista();
+    if (combo1_->count() != static_cast<int>(lista.size()) || [&] {
+            for (int i = 0; i < combo1_->count(); ++i)
+                if (combo1_->itemText(i).toStdString() != lista[i]) return true;
+            return false;
+        }()) {
+        combo1_->clear();
+        for (const std::string& nome : lista) combo1_->addItem(QString::fromStdString(nome));
+    }
+    combo1_->setCurrentIndex(escolha_.selecionada());
+    label10_->setText(QString::fromStdString(escolha_.jogos));
+    label4_->setText(QString::fromStdString(escolha_.vitorias));
+    label5_->setText(QString::fromStdString(escolha_.derrotas));
+    label7_->setText(QString::fromStdString(escolha_.saldo));
+    label16_->setText(QString::fromStdString(escolha_.legendaExcluir));
+    check4_->setChecked(escolha_.assistido());
+    label8_->habilita(escolha_.podeCadastrar());
+    mostrando_ = false;
+}
+
+void FrmNome::abreNovoJogador() {
+    FrmNovoJogador novo(this, modulo_, armazem_,
+                        [this](const std::string& nome) { escolha_.adiciona(nome); });
+    novo.exec();
+    mostra();
+}
+
+void FrmNome::showEvent(QShowEvent* e) {
+    JanelaDeFigura::showEvent(e);
+    if (ativada_) return;
+    ativada_ = true;
+    // After the window is on the screen, as a first activation: a box over it may open.
+    QTimer::singleShot(0, this, [this] {
+        setFocus();
+        escolha_.primeiraAtivacao();
+        mostra();
+    });
+}
+
+bool FrmNome::tecla(int key) {
+    if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
+    escolha_.jogar();
+    accept();
+    return true;
+}
+
+void FrmNome::done(int resultado) {
+    // However it closes, the music stops and the name follows the selection.
+    if (!escolha_.fechada()) escolha_.fecha();
+    JanelaDeFigura::done(resultado);
+}
+
+} // namespace corvina

@@ -1,0 +1,43 @@
+#include "players/qt/frm_placar.h"
+
+#include "core/textos.h"
+#include "players/qt/janelas_figuras.h"
+
+namespace corvina {
+
+FrmPlacar::FrmPlacar(QWidget* dono, const Module1& modulo, const Placar& placar)
+    : JanelaDeFigura(dono, figuraDaJanela("frmplacar"), {345, 176}) {
+    setObjectName("FrmPlacar");
+    setMouseTracking(true);
+    alca(rotulo("Image1", "", emPixels(0, 0, 5145, 270)));
+    const QColor claro(240, 236, 220), ouro(245, 227, 162);
+    rotulo("Label1", QString::fromStdString(placar.manchete), emPixels(195, 330, 4770, 270), 13,
+           true, ouro, Qt::AlignCenter);
+    label3_ = rotulo("Label3", QString::fromStdString(modulo.nomeJogador),
+                     emPixels(255, 915, 1890, 270), 12, true, claro, Qt::AlignCenter);
+    label4_ = rotulo("Label4", texto::kCpu, emPixels(3000, 915, 1890, 270), 12, true, claro,
+                     Qt::AlignCenter);
+    label5_ = rotulo("Label5", QString::number(placar.pontosJog), emPixels(240, 1275, 1890, 540),
+                     30, true, claro, Qt::AlignCenter);
+    rotulo("Label2", "X", emPixels(2295, 1095, 540, 510), 22, true, ouro, Qt::AlignCenter);
+    label6_ = rotulo("Label6", QString::number(placar.pontosMac), emPixels(2955, 1290, 1920, 555),
+                     30, true, claro, Qt::AlignCenter);
+    label8_ = comando("Label8", "OK", emPixels(3780, 2100, 1215, 255), [this] { accept(); });
+    label8_->setAlignment(Qt::AlignCenter);
+    label8_->setStyleSheet("color: rgb(224,224,224);");
+    timer1_.setInterval(kPiscaMs);
+    connect(&timer1_, &QTimer::timeout, this, [this] { pisca(); });
+    if (placar.pisca) timer1_.start();
+    centraNoDono();
+}
+
+void FrmPlacar::pisca() {
+    aceso_ = !aceso_;
+    for (QLabel* l : {label3_, label4_, label5_, label6_}) l->setVisible(aceso_);
+}
+
+void FrmPlacar::mouseMoveEvent(QMouseEvent*) {
+    label8_->setStyleSheet("color: rgb(0,0,0);"); // and it stays black
+}
+
+} // namespace corvina

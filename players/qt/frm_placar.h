@@ -1,0 +1,28 @@
+#pragma once
+// FrmPlacar: the score after a hand; at the end of a match the names and points blink.
+
+#include <QTimer>
+
+#include "core/module1.h"
+#include "core/vista_mesa.h"
+#include "players/qt/janela_de_figura.h"
+
+namespace corvina {
+
+class FrmPlacar : public JanelaDeFigura {
+  public:
+    FrmPlacar(QWidget* dono, const Module1& modulo, const Placar& placar);
+    static constexpr int kPiscaMs = 500; // Timer1
+
+  protected:
+    void mouseMoveEvent(QMouseEvent* e) override;
+
+  private:
+    void pisca();
+    QTimer timer1_;
+    bool aceso_ = false;
+    QLabel *label3_, *label4_, *label5_, *label6_;
+    Comando* label8_;
+};
+
+} // namespace corvina

@@ -1,0 +1,98 @@
+#include "players/qt/frm_records.h"
+
+#include <QMouseEvent>
+#include <QTimer>
+
+#include "core/textos.h"
+#include "players/qt/frm_sim_nao.h"
+#include "players/qt/janelas_figuras.h"
+#include "players/textos_jogadores.h"
+
+namespace corvina {
+
+namespace {
+const QColor kBranco(255, 255, 255), kVerde(0, 255, 0);
+}
+
+FrmRecords::FrmRecords(QWidget* dono, const Module1& modulo, Armazem& armazem, Som* som)
+    : JanelaDeFigura(dono, figuraDaJanela("frmrecords"), {642, 317}), modulo_(modulo),
+      armazem_(armazem), som_(som) {
+    setObjectName("FrmRecords");
+    setWindowTitle("Hall da Fama");
+    for (int r = 0; r < kLinhasDoHall; ++r) {
+        const int top = 1260 + 480 * r;
+        const auto celula = [&](const char* nome, int left, int width, Qt::Alignment a) {
+            const QByteArray n = QByteArray(nome) + "(" + QByteArray::number(r + 1) + ")";
+            QLabel* l = rotulo(n.constData(), ".", emPixels(left, top, width, 375), 16, true,
+                               kBranco, a | Qt::AlignVCenter);
+            l->setAttribute(Qt::WA_TransparentForMouseEvents); // a click on it closes the window
+            return l;
+        };
+        linhas_[r] = {celula("lbNome", 195, 5055, Qt::AlignLeft),
+                      celula("lbVitorias", 5940, 855, Qt::AlignRight),
+                      celula("lbDerrotas", 7155, 975, Qt::AlignRight),
+                      celula("lbSaldo", 8475, 855, Qt::AlignRight)};
+    }
+    comando("Image1", "", emPixels(8205, 4185, 1245, 315), [this] {
+        if (modulo_.tocarSom && som_) som_->tocaSom(som::kClique, false);
+        accept();
+    });
+    comando("Image3", "", emPixels(9030, 210, 450, 330), [this] { accept(); });
+    comando("Image4", "", emPixels(180, 4185, 1125, 315), [this] { zera(); });
+    monta();
+    vigiaTeclas();
+    centraNaTela();
+}
+
+void FrmRecords::monta() {
+    const auto hall = montaHall(armazem_, modulo_.nomeJogador);
+    for (int r = 0; r < kLinhasDoHall; ++r) {
+        const LinhaDoHall& h = hall[r];
+        const Linha& l = linhas_[r];
+        // Rows without a player keep what they had.
+        if (h.preenchida) {
+            l.nome->setText(QString::fromStdString(h.nome));
+            l.vitorias->setText(QString::fromStdString(h.vitorias));
+            l.derrotas->setText(QString::fromStdString(h.derrotas));
+            l.saldo->setText(QString::fromStdString(h.saldo));
+        }
+        const bool verde = l.nome->text().toStdString() == modulo_.nomeJogador;
+        for (QLabel* c : {l.nome, l.vitorias, l.derrotas, l.saldo})
+            c->setStyleSheet(verde ? "color: rgb(0,255,0);" : "color: rgb(255,255,255);");
+    }
+}
+
+void FrmRecords::zera() {
+    if (!SimNao(this, texto::kZerarHall, texto::kConfirmacao)) return;
+    if (modulo_.tocarSom && som_) som_->tocaSom(som::kApaga, false);
+    zeraHall(armazem_);
+    monta();
+}
+
+void FrmRecords::showEvent(QShowEvent* e) {
+    JanelaDeFigura::showEvent(e);
+    if (ativada_) return;
+    ativada_ = true;
+    QTimer::singleShot(0, this, [this] {
+        if (som_) som_->iniciaMusica(modulo_.tocarMusica);
+    });
+}
+
+void FrmRecords::mouseReleaseEvent(QMouseEvent* e) {
+    if (e->button() == Qt::LeftButton) accept(); // a click on the surface closes it
+}
+
+bool FrmRecords::tecla(int key) {
+    if (key != Qt::Key_Space && key != Qt::Key_Return && key != Qt::Key_Enter &&
+        key != Qt::Key_Escape)
+        return false;
+    accept();
+    return true;
+}
+
+void FrmRecords::done(int resultado) {
+    if (som_) som_->fechaMusica();
+    JanelaDeFigura::done(resultado);
+}
+
+} // namespace corvina

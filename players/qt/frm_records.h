@@ -1,0 +1,37 @@
+#pragma once
+// FrmRecords: the hall of fame, worked out from the store at each opening.
+
+#include <array>
+
+#include "core/armazem.h"
+#include "core/module1.h"
+#include "players/hall_da_fama.h"
+#include "players/qt/janela_de_figura.h"
+#include "shell/audio/som.h"
+
+namespace corvina {
+
+class FrmRecords : public JanelaDeFigura {
+  public:
+    FrmRecords(QWidget* dono, const Module1& modulo, Armazem& armazem, Som* som);
+
+  protected:
+    void showEvent(QShowEvent* e) override;
+    void mouseReleaseEvent(QMouseEvent* e) override;
+    bool tecla(int key) override;
+    void done(int resultado) override;
+
+  private:
+    void monta();
+    void zera();
+    const Module1& modulo_;
+    Armazem& armazem_;
+    Som* som_;
+    bool ativada_ = false;
+    struct Linha {
+        QLabel *nome, *vitorias, *derrotas, *saldo;
+    };
+    std::array<Linha, kLinhasDoHall> linhas_{};
+};
+
+} // namespace corvina

@@ -1,0 +1,128 @@
+#include "players/qt/janela_de_figura.h"
+
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScreen>
+#include <QWindow>
+
+namespace corvina {
+
+namespace {
+inline constexpr int kTwipsPorPixel = 15;
+const QColor kComando(245, 227, 162);
+const QColor kDesabilitado(64, 64, 64);
+
+QFont fonte(int px, bool negrito) {
+    QFont f(QStringLiteral("DejaVu Sans"));
+    f.setPixelSize(px);
+    f.setBold(negrito);
+    return f;
+}
+
+void pinta(QLabel* l, QColor cor) {
+    QPalette p = l->palette();
+    p.setColor(QPalette::WindowText, cor);
+    l->setPalette(p);
+}
+} // namespace
+
+Comando::Comando(const QString& texto, QWidget* pai, std::function<void()> aoClicar)
+    : QLabel(texto, pai), aoClicar_(std::move(aoClicar)) {
+    setCursor(Qt::PointingHandCursor);
+    pinta(this, kComando);
+}
+
+void Comando::habilita(bool sim) {
+    setEnabled(sim);
+    setCursor(sim ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    pinta(this, sim ? kComando : kDesabilitado);
+}
+
+void Comando::mousePressEvent(QMouseEvent* e) {
+    pressionado_ = e->button() == Qt::LeftButton;
+}
+
+void Comando::mouseReleaseEvent(QMouseEvent* e) {
+    // A click is a press and a release on the same command.
+    const bool clique =
+        pressionado_ && e->button() == Qt::LeftButton && rect().contains(e->position().toPoint());
+    pressionado_ = false;
+    if (clique && isEnabled() && aoClicar_) aoClicar_();
+}
+
+JanelaDeFigura::JanelaDeFigura(QWidget* dono, const QPixmap& figura, QSize tamanho)
+    : QDialog(dono, Qt::Dialog | Qt::FramelessWindowHint), figura_(figura) {
+    setFixedSize(tamanho);
+    setModal(true);
+    setFont(fonte(12, false));
+}
+
+QRect JanelaDeFigura::emPixels(int left, int top, int width, int height) {
+    return {left / kTwipsPorPixel, top / kTwipsPorPixel, width / kTwipsPorPixel,
+            height / kTwipsPorPixel};
+}
+
+QLabel* JanelaDeFigura::rotulo(const char* nome, const QString& texto, QRect lugar, int px,
+                               bool negrito, QColor cor, Qt::Alignment alinhamento) {
+    auto* l = new QLabel(texto, this);
+    l->setObjectName(nome);
+    l->setGeometry(lugar);
+    l->setFont(fonte(px, negrito));
+    l->setAlignment(alinhamento);
+    pinta(l, cor);
+    return l;
+}
+
+Comando* JanelaDeFigura::comando(const char* nome, const QString& texto, QRect lugar,
+                                 std::function<void()> aoClicar, int px) {
+    auto* c = new Comando(texto, this, std::move(aoClicar));
+    c->setObjectName(nome);
+    c->setGeometry(lugar);
+    c->setFont(fonte(px, true));
+    return c;
+}
+
+void JanelaDeFigura::alca(QWidget* parte) {
+    alca_ = parte;
+    parte->installEventFilter(this);
+}
+
+void JanelaDeFigura::centraNaTela() {
+    const QScreen* tela = screen() ? screen() : QGuiApplication::primaryScreen();
+    if (tela) move(tela->availableGeometry().center() - QPoint(width() / 2, height() / 2));
+}
+
+void JanelaDeFigura::centraNoDono() {
+    if (!parentWidget()) return centraNaTela();
+    const QRect dono = parentWidget()->window()->frameGeometry();
+    move(dono.center() - QPoint(width() / 2, height() / 2));
+}
+
+void JanelaDeFigura::vigiaTeclas() {
+    for (QWidget* w : findChildren<QWidget*>()) w->installEventFilter(this);
+}
+
+void JanelaDeFigura::paintEvent(QPaintEvent*) {
+    QPainter p(this);
+    p.drawPixmap(0, 0, figura_);
+}
+
+void JanelaDeFigura::keyPressEvent(QKeyEvent* e) {
+    // Only the keys a window names do anything: Escape and Enter don't close it by themselves.
+    if (!tecla(e->key())) e->accept();
+}
+
+bool JanelaDeFigura::eventFilter(QObject* alvo, QEvent* e) {
+    if (e->type() == QEvent::KeyPress && alvo != this)
+        return tecla(static_cast<QKeyEvent*>(e)->key());
+    if (alvo == alca_ && e->type() == QEvent::MouseButtonPress &&
+        static_cast<QMouseEvent*>(e)->button() == Qt::LeftButton) {
+        if (QWindow* w = windowHandle()) w->startSystemMove();
+        return true;
+    }
+    return QDialog::eventFilter(alvo, e);
+}
+
+} // namespace corvina

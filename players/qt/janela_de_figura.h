@@ -1,0 +1,55 @@
+#pragma once
+// What the small windows share: no frame, a picture as their whole surface, texts and
+// commands placed in twips, a drag handle, keys seen by the window before its parts.
+
+#include <QDialog>
+#include <QLabel>
+#include <functional>
+
+namespace corvina {
+
+// A text that acts on a click, with the hand cursor; grey and deaf while disabled.
+class Comando : public QLabel {
+  public:
+    Comando(const QString& texto, QWidget* pai, std::function<void()> aoClicar);
+    void habilita(bool sim);
+
+  protected:
+    void mousePressEvent(QMouseEvent* e) override;
+    void mouseReleaseEvent(QMouseEvent* e) override;
+
+  private:
+    std::function<void()> aoClicar_;
+    bool pressionado_ = false;
+};
+
+class JanelaDeFigura : public QDialog {
+  public:
+    JanelaDeFigura(QWidget* dono, const QPixmap& figura, QSize tamanho);
+
+  protected:
+    static QRect emPixels(int left, int top, int width, int height); // from twips
+    QLabel* rotulo(const char* nome, const QString& texto, QRect lugar, int px = 12,
+                   bool negrito = false, QColor cor = QColor(240, 236, 220),
+                   Qt::Alignment alinhamento = Qt::AlignLeft | Qt::AlignVCenter);
+    Comando* comando(const char* nome, const QString& texto, QRect lugar,
+                     std::function<void()> aoClicar, int px = 12);
+    // Holding the left button on this part moves the window.
+    void alca(QWidget* parte);
+    void centraNaTela();
+    void centraNoDono();
+    // Keys reach this before any part of the window; true when it was taken.
+    virtual bool tecla(int /*key*/) { return false; }
+    // Once the parts exist: the keys of each pass through tecla().
+    void vigiaTeclas();
+
+    void paintEvent(QPaintEvent*) override;
+    void keyPressEvent(QKeyEvent* e) override;
+    bool eventFilter(QObject* alvo, QEvent* e) override;
+
+  private:
+    QPixmap figura_;
+    QWidget* alca_ = nullptr;
+};
+
+} // namespace corvina

@@ -1,0 +1,40 @@
+#include "shell/janelas_qt.h"
+
+#include "players/qt/frm_nome.h"
+#include "players/qt/frm_opc.h"
+#include "players/qt/frm_placar.h"
+#include "players/qt/frm_records.h"
+#include "players/qt/frm_sobre.h"
+#include "players/qt/frm_tipos.h"
+
+namespace corvina {
+
+void JanelasQt::abre(Janela janela, const Placar& placar) {
+    Module1& m = jogo_.modulo;
+    switch (janela) {
+    case Janela::FrmNome: {
+        // Its cancel works only when a new match was asked for from the toolbar.
+        const bool cancelavel = jogo_.cancelarNome;
+        jogo_.cancelarNome = false;
+        FrmNome(dono_, m, armazem_, som_, cancelavel).exec();
+        break;
+    }
+    case Janela::FrmPlacar:
+        FrmPlacar(dono_, m, placar).exec();
+        break;
+    case Janela::FrmOpc:
+        FrmOpc(dono_, m, armazem_).exec();
+        break;
+    case Janela::FrmRecords:
+        FrmRecords(dono_, m, armazem_, som_).exec();
+        break;
+    case Janela::frmtipos:
+        FrmTipos(dono_, m, som_).exec();
+        break;
+    case Janela::FrmSobre:
+        FrmSobre(dono_, versao_).exec();
+        break;
+    }
+}
+
+} // namespace corvina

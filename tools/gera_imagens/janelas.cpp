@@ -1,0 +1,180 @@
+#include "janelas.h"
+
+#include <QFont>
+#include <QLinearGradient>
+#include <QPainter>
+#include <QPainterPath>
+
+namespace {
+
+const QColor kOuro(214, 180, 92);
+const QColor kFeltro1(24, 92, 52), kFeltro2(12, 60, 34);
+
+QFont fonte(int px, bool negrito = false) {
+    QFont f(QStringLiteral("DejaVu Sans"));
+    f.setPixelSize(px);
+    f.setBold(negrito);
+    return f;
+}
+
+// Wood all round, the felt inside, a gold line between; a darker strip on top when the window
+// has a heading.
+QImage fundo(QSize tamanho, int faixa = 0) {
+    QImage img(tamanho, QImage::Format_RGB32);
+    QPainter p(&img);
+    p.setRenderHint(QPainter::Antialiasing, true);
+    QLinearGradient madeira(0, 0, 0, tamanho.height());
+    madeira.setColorAt(0, QColor(84, 54, 32));
+    madeira.setColorAt(1, QColor(44, 26, 14));
+    p.fillRect(img.rect(), madeira);
+    const QRectF feltro = QRectF(img.rect()).adjusted(5, 5 + faixa, -5, -5);
+    QLinearGradient verde(feltro.topLeft(), feltro.bottomLeft());
+    verde.setColorAt(0, kFeltro1);
+    verde.setColorAt(1, kFeltro2);
+    p.setPen(QPen(kOuro, 1));
+    p.setBrush(verde);
+    p.drawRoundedRect(feltro.adjusted(0.5, 0.5, -0.5, -0.5), 5, 5);
+    p.setPen(QPen(QColor(0, 0, 0, 120), 1));
+    p.setBrush(Qt::NoBrush);
+    p.drawRect(QRectF(img.rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+    return img;
+}
+
+// A sunken box on the felt, for fields and tables.
+void caixa(QPainter& p, QRectF r) {
+    p.setPen(QPen(QColor(0, 0, 0, 90), 1));
+    p.setBrush(QColor(0, 0, 0, 50));
+    p.drawRoundedRect(r.adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
+}
+
+// A drawn button with its word, as the hall of fame has them.
+void botao(QPainter& p, QRect r, const QString& palavra) {
+    QLinearGradient g(r.topLeft(), r.bottomLeft());
+    g.setColorAt(0, QColor(74, 74, 80));
+    g.setColorAt(1, QColor(38, 38, 42));
+    p.setPen(QPen(kOuro, 1));
+    p.setBrush(g);
+    p.drawRoundedRect(QRectF(r).adjusted(0.5, 0.5, -0.5, -0.5), 5, 5);
+    p.setFont(fonte(12, true));
+    p.setPen(QColor(240, 236, 220));
+    p.drawText(r, Qt::AlignCenter, palavra);
+}
+
+void titulo(QPainter& p, QRect r, const QString& texto, int px = 20) {
+    p.setFont(fonte(px, true));
+    p.setPen(QColor(0, 0, 0, 120));
+    p.drawText(r.translated(2, 2), Qt::AlignLeft | Qt::AlignVCenter, texto);
+    p.setPen(QColor(245, 227, 162));
+    p.drawText(r, Qt::AlignLeft | Qt::AlignVCenter, texto);
+}
+
+} // namespace
+
+QImage janelaNome() {
+    QImage img = fundo({420, 288}, 36);
+    QPainter p(&img);
+    p.setRenderHint(QPainter::Antialiasing, true);
+    titulo(p, QRect(14, 4, 300, 32), QStringLiteral("Corvina"), 22);
+    caixa(p, QRectF(30, 99, 361, 44)); // the record of the selected player
+    p.setPen(QPen(QColor(214, 180, 92, 120), 1));
+    p.drawLine(QPointF(14, 153), QPointF(406, 153));
+    p.drawLine(QPointF(14, 224), QPointF(406, 224));
+    return img;
+}
+
+QImage janelaNovoJogador() {
+    return fundo({344, 130});
+}
+
+QImage janelaRecords() {
+    QImage img = fundo({642, 317}, 36);
+    QPainter p(&img);
+    p.setRenderHint(QPainter::Antialiasing, true);
+    titulo(p, QRect(14, 4, 400, 32), QStringLiteral("Hall da Fama"), 22);
+    // The closing square at the top right.
+    const QRect fecha(602, 12, 30, 24);
+    p.setPen(QPen(kOuro, 1));
+    p.setBrush(QColor(60, 40, 26));
+    p.drawRoundedRect(QRectF(fecha).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
+    p.setFont(fonte(16, true));
+    p.setPen(QColor(240, 236, 220));
+    p.drawText(fecha, Qt::AlignCenter, QStringLiteral("×"));
+    // The headings over the four columns, and a band under each row.
+    p.setFont(fonte(13, true));
+    p.setPen(kOuro);
+    p.drawText(QRect(13, 56, 300, 20), Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("Jogador"));
+    p.drawText(QRect(380, 56, 73, 20), Qt::AlignRight | Qt::AlignVCenter,
+               QStringLiteral("Vitórias"));
+    p.drawText(QRect(462, 56, 80, 20), Qt::AlignRight | Qt::AlignVCenter,
+               QStringLiteral("Derrotas"));
+    p.drawText(QRect(560, 56, 62, 20), Qt::AlignRight | Qt::AlignVCenter, QStringLiteral("Saldo"));
+    for (int r = 0; r < 6; ++r) caixa(p, QRectF(10, 82 + 32 * r, 622, 28));
+    botao(p, QRect(547, 279, 83, 21), QStringLiteral("Fechar"));
+    botao(p, QRect(12, 279, 75, 21), QStringLiteral("Zerar"));
+    return img;
+}
+
+QImage janelaOpcoes() {
+    QImage img = fundo({376, 235}, 36);
+    QPainter p(&img);
+    p.setRenderHint(QPainter::Antialiasing, true);
+    titulo(p, QRect(14, 4, 300, 32), QStringLiteral("Opções"), 20);
+    caixa(p, QRectF(22, 116, 334, 68));
+    return img;
+}
+
+QImage janelaTipos(const std::array<QImage, 8>& versos) {
+    QImage img = fundo({338, 261}, 31);
+    QPainter p(&img);
+    p.setRenderHint(QPainter::Antialiasing, true);
+    titulo(p, QRect(14, 2, 300, 30), QStringLiteral("Escolha o verso das cartas"), 15);
+    const int lefts[] = {14, 94, 174, 254}, tops[] = {43, 147};
+    for (int i = 0; i < 8; ++i) {
+        const QPoint canto(lefts[i % 4], tops[i / 4]);
+        p.setPen(Qt::NoPen);
+        p.setBrush(QColor(0, 0, 0, 90));
+        p.drawRoundedRect(QRectF(canto + QPoint(3, 3), QSize(71, 96)), 6, 6);
+        // The corners of a back carry the table's key colour: cut them to the felt.
+        QImage verso = versos[i].convertToFormat(QImage::Format_ARGB32);
+        for (int y = 0; y < verso.height(); ++y)
+            for (int x = 0; x < verso.width(); ++x)
+                if (verso.pixelColor(x, y) == QColor(21, 130, 64))
+                    verso.setPixelColor(x, y, Qt::transparent);
+        p.drawImage(canto, verso);
+    }
+    return img;
+}
+
+QImage janelaSimNao() {
+    return fundo({400, 130});
+}
+
+QImage janelaPlacar() {
+    QImage img = fundo({345, 176}, 14);
+    QPainter p(&img);
+    p.setRenderHint(QPainter::Antialiasing, true);
+    caixa(p, QRectF(12, 56, 321, 76));
+    return img;
+}
+
+QImage janelaSobre(const QImage& verso) {
+    QImage img = fundo({430, 189});
+    QPainter p(&img);
+    p.setRenderHint(QPainter::Antialiasing, true);
+    QImage carta = verso.convertToFormat(QImage::Format_ARGB32);
+    for (int y = 0; y < carta.height(); ++y)
+        for (int x = 0; x < carta.width(); ++x)
+            if (carta.pixelColor(x, y) == QColor(21, 130, 64))
+                carta.setPixelColor(x, y, Qt::transparent);
+    p.translate(30, 40);
+    p.rotate(-8);
+    p.drawImage(0, 0, carta);
+    p.resetTransform();
+    titulo(p, QRect(104, 40, 300, 40), QStringLiteral("Corvina"), 28);
+    p.setFont(fonte(12));
+    p.setPen(QColor(230, 226, 210));
+    p.drawText(QRect(104, 84, 316, 60), Qt::TextWordWrap,
+               QStringLiteral("Um jogo de cartas da família do rummy: três trincas vencem a mão, "
+                              "quatro mãos vencem a partida."));
+    return img;
+}

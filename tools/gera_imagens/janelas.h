@@ -1,0 +1,16 @@
+#pragma once
+// The surfaces of the small windows, in the same hand as the table: dark wood, a green felt
+// panel, gold lines. Texts that change are drawn by the game over them; what never changes
+// (the hall's headings and buttons, the eight backs) is drawn here.
+
+#include <QImage>
+#include <array>
+
+QImage janelaNome();                                     // FrmNome, 420 by 288
+QImage janelaNovoJogador();                              // FrmNovoJogador, 344 by 130
+QImage janelaRecords();                                  // FrmRecords, 642 by 317
+QImage janelaOpcoes();                                   // FrmOpc, 376 by 235
+QImage janelaTipos(const std::array<QImage, 8>& versos); // frmtipos, 338 by 261
+QImage janelaSimNao();                                   // FrmSimNao, 400 by 130
+QImage janelaPlacar();                                   // FrmPlacar, 345 by 176
+QImage janelaSobre(const QImage& verso);                 // FrmSobre's client area, 430 by 189
