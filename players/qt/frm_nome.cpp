@@ -75,9 +75,9 @@ FrmNome::FrmNome(QWidget* dono, Module1& modulo, Armazem& armazem, Som* som, boo
     };
     connect(check4_, &QCheckBox::clicked, this, alterna);
     comando("Label12", "Modo assistido:Informa o nº de trincas formadas",
-            emPixels(1095, 2835, 4470, 255), alterna, 11);
-    comando("Label13", "Habilita o botão \"Auto ordenar cartas\"", emPixels(1095, 3030, 3015, 255),
-            alterna, 11);
+            emPixels(1095, 2835, 4470, 255), alterna, 11, false);
+    comando("Label13", "Habilita o botão \"Auto ordenar cartas\"", emPixels(1095, 3030, 4470, 255),
+            alterna, 11, false);
     rotulo("Label18", "O Jogo termina quando um lado fizer 4 pontos",
            emPixels(180, 3435, 5655, 225), 11, false, QColor(214, 200, 160), Qt::AlignCenter);
     comando("Label9", "Jogar", emPixels(4725, 3900, 1185, 255), [this] {

@@ -76,11 +76,11 @@ QLabel* JanelaDeFigura::rotulo(const char* nome, const QString& texto, QRect lug
 }
 
 Comando* JanelaDeFigura::comando(const char* nome, const QString& texto, QRect lugar,
-                                 std::function<void()> aoClicar, int px) {
+                                 std::function<void()> aoClicar, int px, bool negrito) {
     auto* c = new Comando(texto, this, std::move(aoClicar));
     c->setObjectName(nome);
     c->setGeometry(lugar);
-    c->setFont(fonte(px, true));
+    c->setFont(fonte(px, negrito));
     return c;
 }
 

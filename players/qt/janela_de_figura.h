@@ -33,7 +33,7 @@ class JanelaDeFigura : public QDialog {
                    bool negrito = false, QColor cor = QColor(240, 236, 220),
                    Qt::Alignment alinhamento = Qt::AlignLeft | Qt::AlignVCenter);
     Comando* comando(const char* nome, const QString& texto, QRect lugar,
-                     std::function<void()> aoClicar, int px = 12);
+                     std::function<void()> aoClicar, int px = 12, bool negrito = true);
     // Holding the left button on this part moves the window.
     void alca(QWidget* parte);
     void centraNaTela();
