@@ -1,0 +1,325 @@
+// The small windows on the real table, offscreen: each opened from its key or button, acted on
+// with synthetic mouse and key events, and the store and the game checked afterwards.
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QSlider>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <memory>
+
+#include "apoio/som_gravado.h"
+#include "core/ajustes.h"
+#include "core/novojogo.h"
+#include "core/pecas.h"
+#include "machine/autojogador.h"
+#include "players/qt/frm_placar.h"
+#include "players/qt/frm_sim_nao.h"
+#include "players/qt/settings.h"
+#include "shell/audio/musica_fluidsynth.h"
+#include "shell/imagens.h"
+#include "shell/janela_mesa.h"
+#include "shell/janelas_qt.h"
+#include "shell/ondas_qt.h"
+#include "table/comandos.h"
+
+namespace corvina {
+namespace {
+
+// Runs `acao` on the window named `nome` once it has stood open as the modal window for a few
+// turns of its loop (so that its own first activation has run), from inside that loop.
+void quandoAbrir(const char* nome, std::function<void(QWidget*)> acao) {
+    auto* relogio = new QTimer;
+    relogio->setInterval(5);
+    auto vezes = std::make_shared<int>(0);
+    QObject::connect(relogio, &QTimer::timeout, [=] {
+        QWidget* w = QApplication::activeModalWidget();
+        if (!w || w->objectName() != nome || !w->isVisible()) {
+            *vezes = 0;
+            return;
+        }
+        if (++*vezes < 4) return;
+        relogio->stop();
+        relogio->deleteLater();
+        acao(w);
+    });
+    relogio->start();
+}
+
+template <class T = QWidget> T* parte(QWidget* janela, const char* nome) {
+    T* p = janela->findChild<T*>(nome);
+    EXPECT_NE(p, nullptr) << nome;
+    return p;
+}
+
+// Typed as a person would, accents included.
+void digita(QWidget* w, const QString& texto) {
+    for (const QChar c : texto)
+        QTest::sendKeyEvent(QTest::Click, w, Qt::Key_unknown, QString(c), Qt::NoModifier);
+}
+
+void clica(QWidget* janela, const char* nome) {
+    QTest::mouseClick(parte(janela, nome), Qt::LeftButton);
+}
+
+struct Mesa : testing::Test {
+    QTemporaryDir pasta;
+    Settings settings{pasta.filePath("Corvina.ini")};
+    Imagens imagens{pastaDeImagens()};
+    VistaQt vista{settings};
+    OndasGravadas ondas;
+    MidiGravado midi;
+    Som som{"/sons", ondas, midi};
+    AcasoSemente acaso{7};
+    Jogo jogo{vista, acaso};
+    JanelasQt janelas{jogo, settings, &som, "0.1"};
+    JanelaMesa janela{jogo, vista, imagens};
+
+    Mesa() {
+        vista.liga(jogo);
+        vista.som(&som);
+        vista.janelas(&janelas);
+        vista.modoDeTeste(true);
+        janelas.dono(&janela);
+        settings.grava(chaveBase(), ajuste::kPrimeiraVez, "1");
+    }
+    void lista(std::initializer_list<const char*> nomes) {
+        int n = 1;
+        for (const char* nome : nomes) settings.grava(chaveBase(), ajuste::jogador(n++), nome);
+    }
+    // The table up and dealt, the choice of player answered by `escolha`.
+    void abre(std::function<void(QWidget*)> escolha) {
+        Form_Load(jogo);
+        quandoAbrir("FrmNome", std::move(escolha));
+        janela.show();
+        for (int i = 0; i < 200 && jogo.mesa.qtdJog == 0; ++i) QTest::qWait(5);
+        ASSERT_EQ(jogo.mesa.qtdJog, 9) << "the first activation dealt";
+        ondas.tocadas.clear();
+        midi.comandos.clear();
+    }
+    void tecla(Qt::Key k, Qt::KeyboardModifiers m = Qt::NoModifier) {
+        QTest::keyClick(&janela, k, m);
+    }
+    std::string ajuste(const char* nome) { return settings.le(chaveBase(), nome, ""); }
+};
+
+TEST_F(Mesa, AFirstPlayerIsRegisteredAndPlaysInAssistedMode) {
+    quandoAbrir("FrmNovoJogador", [](QWidget* w) {
+        auto* text1 = parte<QLineEdit>(w, "Text1");
+        EXPECT_EQ(text1->selectedText(), "Jogador") << "typing replaces the proposed name";
+        digita(text1, "Zé d'Água");
+        QTest::keyClick(text1, Qt::Key_Return);
+    });
+    abre([](QWidget* w) {
+        EXPECT_FALSE(parte(w, "Label15")->isVisible()) << "no cancel at the start";
+        EXPECT_EQ(parte<QComboBox>(w, "Combo1")->currentText(), "Zé d'Água");
+        clica(w, "Label12");
+        EXPECT_TRUE(parte<QCheckBox>(w, "Check4")->isChecked());
+        clica(w, "Label9");
+    });
+    EXPECT_EQ(jogo.modulo.nomeJogador, "Zé d'Água");
+    EXPECT_EQ(jogo.modulo.assistido, 1);
+    EXPECT_TRUE(vista.cena().textos.statusVisivel) << "assisted mode reaches the table";
+    EXPECT_EQ(ajuste("Jogador1"), "Zé d'Água");
+    EXPECT_EQ(settings.le(chaveJogador("ZÉ D'ÁGUA"), "Assistido", ""), "1");
+}
+
+TEST_F(Mesa, NewMatchFromTheToolbarCanBeCancelledOrPlayed) {
+    lista({"Ana", "Bia"});
+    abre([](QWidget* w) { clica(w, "Label9"); });
+    jogo.modulo.pontosJog = 2;
+    const Carta primeira = cartaNa(jogo.mesa.jogValor, jogo.mesa.jogNaipe, 1);
+
+    quandoAbrir("FrmNome", [](QWidget* w) {
+        EXPECT_TRUE(parte(w, "Label15")->isVisible());
+        parte<QComboBox>(w, "Combo1")->setCurrentIndex(1);
+        emit parte<QComboBox>(w, "Combo1")->activated(1);
+        clica(w, "Label15");
+    });
+    tecla(Qt::Key_F3);
+    EXPECT_EQ(jogo.modulo.pontosJog, 2) << "cancelled: the hand goes on";
+    EXPECT_EQ(cartaNa(jogo.mesa.jogValor, jogo.mesa.jogNaipe, 1), primeira);
+    EXPECT_EQ(jogo.modulo.nomeJogador, "Bia") << "the name follows the selection";
+    EXPECT_EQ(ondas.tocadas, std::vector<std::string>{}) << "no sound files under /sons";
+
+    jogo.modulo.tocarMusica = true;
+    midi.comandos.clear();
+    quandoAbrir("FrmNome", [](QWidget* w) { QTest::keyClick(w, Qt::Key_Return); });
+    QTest::mouseClick(&janela, Qt::LeftButton, {}, QPoint(80, 95)); // NOVO
+    EXPECT_EQ(jogo.modulo.pontosJog, 0) << "a new match";
+    EXPECT_EQ(midi.comandos.front(), "close musica") << "the choice plays the music";
+    EXPECT_EQ(midi.comandos.back(), "stop musica");
+}
+
+TEST_F(Mesa, OptionsAreStoredOnOkAndLeftAloneOnCancel) {
+    lista({"Ana"});
+    abre([](QWidget* w) { clica(w, "Label9"); });
+    quandoAbrir("FrmOpc", [](QWidget* w) {
+        EXPECT_EQ(parte<QSlider>(w, "HScroll1")->value(), 6);
+        parte<QSlider>(w, "HScroll1")->setValue(14);
+        clica(w, "Label5");
+    });
+    tecla(Qt::Key_F4);
+    EXPECT_EQ(jogo.modulo.velocidade, 6);
+    EXPECT_EQ(ajuste("Velocidade"), "");
+
+    quandoAbrir("FrmOpc", [](QWidget* w) {
+        parte<QSlider>(w, "HScroll1")->setValue(11);
+        clica(w, "Check1");
+        clica(w, "Check2");
+        clica(w, "Label4");
+    });
+    tecla(Qt::Key_F4);
+    EXPECT_EQ(jogo.modulo.velocidade, 11);
+    EXPECT_FALSE(jogo.modulo.tocarSom);
+    EXPECT_TRUE(jogo.modulo.tocarMusica);
+    EXPECT_EQ(ajuste("Velocidade"), "11");
+    EXPECT_EQ(ajuste("TocarSom"), "False");
+    EXPECT_EQ(ajuste("TocarMusica"), "True");
+    EXPECT_EQ(ajuste("AnimarCartas"), "True");
+}
+
+TEST_F(Mesa, ABackIsChosenWithAClickAndEscapeChangesNothing) {
+    lista({"Ana"});
+    abre([](QWidget* w) { clica(w, "Label9"); });
+    jogo.modulo.tocarSom = true;
+    quandoAbrir("frmtipos", [](QWidget* w) { QTest::keyClick(w, Qt::Key_Escape); });
+    tecla(Qt::Key_F2);
+    EXPECT_EQ(jogo.modulo.tipoCarta, 4);
+    quandoAbrir("frmtipos", [](QWidget* w) { clica(w, "tipo7"); });
+    tecla(Qt::Key_F2);
+    EXPECT_EQ(jogo.modulo.tipoCarta, 7);
+    EXPECT_EQ(vista.cena()[peca::kCostas2].Picture, figuraDoVerso(7)) << "the stock turned";
+    EXPECT_EQ(ajuste("TipoCarta"), "") << "stored only when the table closes";
+}
+
+TEST_F(Mesa, TheHallOfFameShowsTheBestAndCanBeWiped) {
+    lista({"Ana", "Bia", "Caio"});
+    for (const auto& [nome, saldo] : {std::pair{"Ana", "-1"}, {"Bia", "3"}, {"Caio", "1"}})
+        settings.grava(chaveJogador(nome), "Saldo", saldo);
+    abre([](QWidget* w) { clica(w, "Label9"); });
+    jogo.modulo.nomeJogador = "Caio";
+    jogo.modulo.tocarSom = true;
+    jogo.modulo.tocarMusica = true;
+    quandoAbrir("FrmSimNao", [](QWidget* w) { QTest::keyClick(w, Qt::Key_Return); });
+    quandoAbrir("FrmRecords", [](QWidget* w) {
+        EXPECT_EQ(parte<QLabel>(w, "lbNome(1)")->text(), "Bia");
+        EXPECT_EQ(parte<QLabel>(w, "lbNome(2)")->text(), "Caio");
+        EXPECT_EQ(parte<QLabel>(w, "lbSaldo(3)")->text(), "-1");
+        EXPECT_EQ(parte<QLabel>(w, "lbNome(4)")->text(), ".");
+        EXPECT_TRUE(parte<QLabel>(w, "lbNome(2)")->styleSheet().contains("0,255,0"));
+        clica(w, "Image4"); // the yes/no box answers Sim
+        EXPECT_EQ(parte<QLabel>(w, "lbNome(1)")->text(), "Ana") << "all zero: the list's order";
+        QTest::keyClick(w, Qt::Key_Space);
+    });
+    tecla(Qt::Key_F5);
+    EXPECT_EQ(settings.le(chaveJogador("Bia"), "Saldo", "vazio"), "vazio");
+    EXPECT_EQ(ondas.tocadas.size(), 0u) << "no files under /sons: silence";
+    EXPECT_EQ(midi.comandos,
+              (std::vector<std::string>{"close musica",
+                                        "open /sons\\passport.mid type sequencer alias musica",
+                                        "play musica", "Close musica"}));
+}
+
+TEST_F(Mesa, EveryToolbarWordClicksWhenSoundIsOn) {
+    lista({"Ana"});
+    abre([](QWidget* w) { clica(w, "Label9"); });
+    Som real(pastaDosSons().toStdString(), ondas, midi);
+    vista.som(&real);
+    jogo.modulo.tocarSom = true;
+    for (const char* nome : {"FrmOpc", "FrmRecords", "frmtipos"})
+        quandoAbrir(nome, [](QWidget* w) { QTest::keyClick(w, Qt::Key_Escape); });
+    quandoAbrir("FrmOpc", [](QWidget* w) { clica(w, "Label5"); });
+    for (const int x : {210, 340, 470})
+        QTest::mouseClick(&janela, Qt::LeftButton, {}, QPoint(x, 95));
+    quandoAbrir("FrmOpc", [](QWidget* w) { clica(w, "Label5"); });
+    tecla(Qt::Key_F4);
+    ASSERT_EQ(ondas.tocadas.size(), 4u) << "three buttons and the key that stands for one";
+    for (const std::string& t : ondas.tocadas) EXPECT_TRUE(t.ends_with("/click2.wav")) << t;
+    jogo.modulo.tocarSom = false;
+    quandoAbrir("FrmRecords", [](QWidget* w) { QTest::keyClick(w, Qt::Key_Escape); });
+    QTest::mouseClick(&janela, Qt::LeftButton, {}, QPoint(340, 95));
+    EXPECT_EQ(ondas.tocadas.size(), 4u);
+    vista.som(&som);
+}
+
+TEST(FrmSimNao, EnterAnswersYesAndEscapeNo) {
+    const struct {
+        Qt::Key tecla;
+        bool resposta;
+    } casos[] = {{Qt::Key_Return, true}, {Qt::Key_Escape, false}, {Qt::Key_Enter, true}};
+    for (const auto& c : casos) {
+        quandoAbrir("FrmSimNao", [&](QWidget* w) { QTest::keyClick(w, c.tecla); });
+        EXPECT_EQ(SimNao(nullptr, "Pergunta?", "Título"), c.resposta);
+    }
+    quandoAbrir("FrmSimNao", [](QWidget* w) { clica(w, "Label3"); });
+    EXPECT_FALSE(SimNao(nullptr, "Pergunta?", "Título"));
+}
+
+TEST(FrmPlacar, TheNamesAndPointsBlinkOnlyAtTheEndOfAMatch) {
+    Module1 m;
+    m.nomeJogador = "Ana";
+    for (const bool pisca : {false, true}) {
+        FrmPlacar placar(nullptr, m, {"Parabéns, você foi o vencedor", 4, 2, pisca});
+        placar.show();
+        QLabel* label5 = placar.findChild<QLabel*>("Label5");
+        ASSERT_NE(label5, nullptr);
+        EXPECT_EQ(label5->text(), "4");
+        QTest::qWait(FrmPlacar::kPiscaMs + 100);
+        EXPECT_TRUE(label5->isVisible()) << "the first tick shows them";
+        QTest::qWait(FrmPlacar::kPiscaMs);
+        EXPECT_EQ(label5->isVisible(), !pisca) << "the second hides them";
+        EXPECT_TRUE(placar.findChild<QLabel*>("Label1")->isVisible());
+        QTest::mouseClick(placar.findChild<QWidget*>("Label8"), Qt::LeftButton);
+        EXPECT_FALSE(placar.isVisible());
+    }
+}
+
+TEST(PartidaComSom, AWholeMatchRunsWithSoundAndMusicOnAndNoAudioDevice) {
+    QTemporaryDir pasta;
+    Settings settings(pasta.filePath("Corvina.ini"));
+    VistaQt vista(settings);
+    OndasQt ondas;
+    MusicaFluidSynth musica;
+    Som som(pastaDosSons().toStdString(), ondas, musica);
+    AcasoSemente acaso(3);
+    Jogo jogo(vista, acaso);
+    vista.liga(jogo);
+    vista.som(&som);
+    vista.modoDeTeste(true);
+    int partidas = 0;
+    vista.aoAbrirJanela = [&](Janela j) {
+        if (j != Janela::FrmNome) return;
+        som.iniciaMusica(true);
+        ++partidas;
+        som.paraMusica();
+    };
+    jogo.modulo = {};
+    jogo.modulo.tocarSom = jogo.modulo.tocarMusica = true;
+    jogo.modulo.nomeJogador = "Ana";
+    jogo.modulo.velocidade = 1;
+    novojogo(jogo);
+    for (int vez = 0; vez < 5000 && partidas == 0; ++vez) jogaPeloJogador(jogo);
+    ASSERT_EQ(partidas, 1) << "a match was played to its end";
+    const std::string chave = chaveJogador("Ana");
+    EXPECT_EQ(numeroDoTexto(settings.le(chave, "Vitorias", "0")) +
+                  numeroDoTexto(settings.le(chave, "Derrotas", "0")),
+              1);
+    som.fechaMusica();
+    musica.aguardaComandos();
+}
+
+} // namespace
+} // namespace corvina
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}
