@@ -1,5 +1,7 @@
 #include "cli/json_cartas.h"
 
+#include <cstdint>
+
 namespace corvina::cli {
 
 using json = nlohmann::ordered_json;
@@ -20,8 +22,11 @@ long inteiro(const json& pedido, const char* nome, long minimo, long maximo) {
     const json& v = campo(pedido, nome);
     if (!v.is_number_integer())
         throw PedidoInvalido(std::string("\"") + nome + "\" must be a whole number");
-    const long n = v.get<long>();
-    if (n < minimo || n > maximo)
+    // A number above the signed range is stored unsigned: it must not wrap into a small one.
+    const bool grandeDemais = v.is_number_unsigned() && maximo >= 0 &&
+                              v.get<std::uint64_t>() > static_cast<std::uint64_t>(maximo);
+    const long n = grandeDemais ? maximo : v.get<long>();
+    if (grandeDemais || n < minimo || n > maximo)
         throw PedidoInvalido(std::string("\"") + nome + "\" must lie in " + std::to_string(minimo) +
                              ".." + std::to_string(maximo));
     return n;

@@ -14,6 +14,8 @@
 #include "machine/ordenacao.h"
 #include "machine/tentativas.h"
 #include "machine/vale.h"
+#include "players/hall_da_fama.h"
+#include "players/lista_de_jogadores.h"
 #include "table/ordenar.h"
 
 namespace corvina::cli {
@@ -52,6 +54,11 @@ Requests and answers:
       -> {"hand":[...],"ordemAuto":N,"caption":"...","status":"..."|null,"win":B,
           "messages":["..."]}   one press of the sort button; status null when the
          trinca line was left alone, messages the texts of the boxes shown
+  {"op":"hallDaFama","jogadores":[{"nome":"..","saldo":S,"vitorias":V,"derrotas":D},...],
+   "nomeJogador":".."}
+      -> {"linhas":[{"nome":"..","vitorias":V,"derrotas":D,"saldo":S,"verde":B},...]}
+         the rows of the hall of fame for players in list order (at most 50); a value may
+         be a number or the text the store holds, and an empty or absent one counts 0
   {"op":"selfplay","seed":S,"matches":N}
       -> {"matches":N,"hands":..,"handsWonJog":..,"handsWonMac":..,"handsNoWinner":..,
           "exchanges":..,"matchesWonJog":..,"matchesWonMac":..,"seconds":..}
@@ -275,6 +282,39 @@ json botaoOrdenar(const json& p) {
             {"status", status},        {"win", venceu},           {"messages", mensagens}};
 }
 
+// A value of the store: its text, or a number written as text.
+std::string textoDoRegistro(const json& jogador, const char* nome) {
+    const auto it = jogador.find(nome);
+    if (it == jogador.end() || it->is_null()) return "";
+    if (it->is_string()) return it->get<std::string>();
+    if (it->is_number_integer()) return it->dump();
+    throw PedidoInvalido(std::string("\"") + nome + "\" must be a whole number or a text");
+}
+
+json hallDaFama(const json& p) {
+    const json& lista = campo(p, "jogadores");
+    if (!lista.is_array() || lista.size() > static_cast<std::size_t>(kMaxJogadores))
+        throw PedidoInvalido("\"jogadores\" must be an array of at most 50 players");
+    std::vector<JogadorDoHall> jogadores;
+    for (const json& j : lista) {
+        if (!j.is_object()) throw PedidoInvalido("each player is an object");
+        const std::string nome = texto(j, "nome");
+        if (nome.empty()) throw PedidoInvalido("a player of the list has a name");
+        jogadores.push_back({nome, textoDoRegistro(j, "saldo"), textoDoRegistro(j, "vitorias"),
+                             textoDoRegistro(j, "derrotas")});
+    }
+    json linhas = json::array();
+    for (const LinhaDoHall& l : montaHall(jogadores, texto(p, "nomeJogador"))) {
+        if (!l.preenchida) break;
+        linhas.push_back({{"nome", l.nome},
+                          {"vitorias", std::stol(l.vitorias)},
+                          {"derrotas", std::stol(l.derrotas)},
+                          {"saldo", std::stol(l.saldo)},
+                          {"verde", l.verde}});
+    }
+    return {{"linhas", linhas}};
+}
+
 json atende(const json& p) {
     if (!p.is_object()) throw PedidoInvalido("a request is a JSON object");
     const std::string op = texto(p, "op");
@@ -287,9 +327,21 @@ json atende(const json& p) {
     if (op == "deal") return distribuicao(p);
     if (op == "selfplay") return autojogo(p);
     if (op == "sortButton") return botaoOrdenar(p);
+    if (op == "hallDaFama") return hallDaFama(p);
     throw PedidoInvalido("unknown op \"" + op + "\"");
 }
 
+} // namespace
+
+namespace {
+// Whatever a text holds, the answer is valid JSON: bytes that are not UTF-8 become U+FFFD.
+std::string escreve(const json& resposta) {
+    return resposta.dump(-1, ' ', false, json::error_handler_t::replace);
+}
+
+std::string erro(const std::string& texto) {
+    return escreve(json{{"error", texto}});
+}
 } // namespace
 
 std::string responde(std::string_view linha) {
@@ -297,14 +349,19 @@ std::string responde(std::string_view linha) {
     try {
         pedido = json::parse(linha);
     } catch (const json::parse_error& e) {
-        return json{{"error", std::string("invalid JSON: ") + e.what()}}.dump();
+        // Not the parser's own words: they quote the bytes read, which may not be UTF-8.
+        return erro("invalid JSON at byte " + std::to_string(e.byte));
+    } catch (const json::out_of_range&) {
+        return erro("invalid JSON: a number beyond what a double holds");
+    } catch (const std::exception&) {
+        return erro("invalid JSON");
     }
     try {
-        return atende(pedido).dump();
+        return escreve(atende(pedido));
     } catch (const PedidoInvalido& e) {
-        return json{{"error", e.what()}}.dump();
+        return erro(e.what());
     } catch (const std::exception& e) {
-        return json{{"error", std::string("failed: ") + e.what()}}.dump();
+        return erro(std::string("failed: ") + e.what());
     }
 }
 
