@@ -18,20 +18,6 @@ const QSize kCarta(71, 96);
 // Hearts, clubs, diamonds, spades: the order of the suits.
 const QChar kSimbolos[] = {QChar(0x2665), QChar(0x2663), QChar(0x2666), QChar(0x2660)};
 
-QString nomeDoValor(int v) {
-    switch (v) {
-    case 1:
-        return "A";
-    case 11:
-        return "J";
-    case 12:
-        return "Q";
-    case 13:
-        return "K";
-    default:
-        return QString::number(v);
-    }
-}
 const QSize kBotoes[] = {{126, 30}, {121, 30}, {121, 30}, {122, 30}, {118, 30}, {118, 30}};
 } // namespace
 
@@ -111,7 +97,7 @@ Imagens::Imagens(const QString& pasta) : pasta_(pasta) {
         for (int v = 1; v <= kValores; ++v) {
             const Figura f = figuraDaFace(n, v);
             figuras_[f] = carrega(QString("cartas/%1%2.png").arg(kSeries[n - 1]).arg(v), kCarta,
-                                  nomeDoValor(v) + kSimbolos[n - 1]);
+                                  QString(nomeDoValor(v)) + kSimbolos[n - 1]);
         }
     for (int t = 1; t <= 8; ++t)
         figuras_[figuraDoVerso(t)] =

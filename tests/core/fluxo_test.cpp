@@ -140,6 +140,9 @@ TEST(Descarte, ClosesTheGapThenTheMachinePlays) {
     EXPECT_EQ(t.jogo.mesa.qtdJog, 9);
     EXPECT_EQ(t.jogo.mesa.qtdMac, 9);
     EXPECT_TRUE(t.chamou("mostraPrompt Aguarde a maquina jogar"));
+    // The pictures of the flight and of the new top are cut to the card's outline.
+    EXPECT_TRUE(t.chamou("aplicaContorno discartado2"));
+    EXPECT_TRUE(t.chamou("aplicaContorno Discartado"));
     EXPECT_FALSE(t.jogo.maosEmJogo);
     EXPECT_EQ(t.vista.chamadas.back(), "ponteiro Picmover 12");
 }

@@ -145,10 +145,7 @@ TEST(Autojogo, TheSameSeedPlaysTheSameMatches) {
     EXPECT_EQ(a.maos, b.maos);
     EXPECT_EQ(a.maosJog, b.maosJog);
     EXPECT_EQ(a.trocas, b.trocas);
-    EXPECT_EQ(a.partidas, 5);
-    EXPECT_EQ(a.partidasJog + a.partidasMac, 5);
-    EXPECT_EQ(a.maosJog + a.maosMac + a.maosSemVencedor, a.maos);
-    EXPECT_GE(a.maosJog, 4 * a.partidasJog);
+    EXPECT_NE(a.maos, autojoga(78, 5).maos) << "another seed, other matches";
 }
 
 } // namespace

@@ -316,10 +316,3 @@ TEST(PartidaComSom, AWholeMatchRunsWithSoundAndMusicOnAndNoAudioDevice) {
 
 } // namespace
 } // namespace corvina
-
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    testing::InitGoogleTest(&argc, argv);
-    return RUN_ALL_TESTS();
-}

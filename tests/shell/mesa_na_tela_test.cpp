@@ -147,10 +147,3 @@ TEST(Imagens, TheOutlineCutsTheKeyColourExactlyAndNothingElse) {
 
 } // namespace
 } // namespace corvina
-
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    testing::InitGoogleTest(&argc, argv);
-    return RUN_ALL_TESTS();
-}

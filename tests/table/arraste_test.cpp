@@ -192,6 +192,31 @@ TEST(Pilha, TheFanFollowsThePileCount) {
     }
 }
 
+TEST(Pilha, TheFanTakesEachNewTopAndThePictureThatLayUnderIt) {
+    MesaDeCena t;
+    t.arma(kNove, kMac);
+    const auto figura = [&](int i) {
+        return t.sprite({Parte::Picture8, static_cast<int16>(i)}).Picture;
+    };
+    // Successive discards: each top lands at the fan's next place, the last place once full.
+    const struct {
+        int16 n;
+        Figura topo, antes;
+        std::vector<Figura> leque; // Picture8(0..4) after the call
+    } passos[] = {
+        {1, 11, 0, {11, 0, 0, 0, 0}},     {2, 12, 11, {11, 12, 0, 0, 0}},
+        {3, 13, 12, {11, 12, 13, 0, 0}},  {5, 15, 14, {11, 12, 13, 0, 15}},
+        {7, 17, 15, {11, 12, 13, 0, 17}},
+    };
+    for (const auto& p : passos) {
+        t.jogo.modulo.qtdDescarte = p.n;
+        t.sprite({Parte::Discartado}).Picture = p.topo;
+        t.sprite({Parte::antes}).Picture = p.antes;
+        t.vista.MostraDiscarts();
+        for (int i = 0; i < 5; ++i) EXPECT_EQ(figura(i), p.leque[i]) << p.n << " place " << i;
+    }
+}
+
 TEST(Fileiras, PaintingASlotShowsTheRowAndTheTenthFollowsTheCount) {
     MesaDeCena t;
     t.arma(kNove, kMac);

@@ -96,6 +96,20 @@ TEST(Ordenar, NineCardsOfThreeTrincasWinTheHand) {
     EXPECT_TRUE(t.chamou("abreJanela FrmPlacar"));
 }
 
+TEST(Ordenar, TenCardsOfThreeTrincasShowThemButWinNothing) {
+    // The player holds a drawn card: the hand is won only by a discard.
+    JogoDeTeste t;
+    t.arma("13/4 1/4 7/3 6/2 12/4 5/2 7/2 4/2 7/1 9/3", kMac);
+    ASSERT_EQ(t.jogo.mesa.qtdJog, 10);
+    t.jogo.modulo.assistido = 1;
+    t.jogo.modulo.avisoOrdenar = true;
+    Label4_Click(t.jogo);
+    EXPECT_TRUE(t.chamou("mostraTrincas 3 trincas"));
+    EXPECT_EQ(t.jogo.modulo.pontosJog, 0);
+    EXPECT_FALSE(t.chamou("abreJanela FrmPlacar"));
+    EXPECT_EQ(t.jogo.mesa.qtdJog, 10);
+}
+
 TEST(Ordenar, WaitsWhileTheMachinePlays) {
     JogoDeTeste t;
     t.arma("9/1 2/3 9/3 1/4 13/2 5/1 6/2 7/3 8/4", kMac);
@@ -103,11 +117,6 @@ TEST(Ordenar, WaitsWhileTheMachinePlays) {
     t.jogo.maosEmJogo = true;
     Label4_Click(t.jogo);
     EXPECT_TRUE(t.vista.chamadas.empty());
-}
-
-TEST(Ordenar, Captions) {
-    EXPECT_EQ(legendaDaOrdem(0), "Auto");
-    EXPECT_EQ(legendaDaOrdem(3), "Auto 3");
 }
 
 } // namespace

@@ -135,12 +135,7 @@ QImage janelaTipos(const std::array<QImage, 8>& versos) {
         p.setBrush(QColor(0, 0, 0, 90));
         p.drawRoundedRect(QRectF(canto + QPoint(3, 3), QSize(71, 96)), 6, 6);
         // The corners of a back carry the table's key colour: cut them to the felt.
-        QImage verso = versos[i].convertToFormat(QImage::Format_ARGB32);
-        for (int y = 0; y < verso.height(); ++y)
-            for (int x = 0; x < verso.width(); ++x)
-                if (verso.pixelColor(x, y) == QColor(21, 130, 64))
-                    verso.setPixelColor(x, y, Qt::transparent);
-        p.drawImage(canto, verso);
+        p.drawImage(canto, semCantos(versos[i]));
     }
     return img;
 }
@@ -161,14 +156,9 @@ QImage janelaSobre(const QImage& verso) {
     QImage img = fundo({430, 189});
     QPainter p(&img);
     p.setRenderHint(QPainter::Antialiasing, true);
-    QImage carta = verso.convertToFormat(QImage::Format_ARGB32);
-    for (int y = 0; y < carta.height(); ++y)
-        for (int x = 0; x < carta.width(); ++x)
-            if (carta.pixelColor(x, y) == QColor(21, 130, 64))
-                carta.setPixelColor(x, y, Qt::transparent);
     p.translate(30, 40);
     p.rotate(-8);
-    p.drawImage(0, 0, carta);
+    p.drawImage(0, 0, semCantos(verso));
     p.resetTransform();
     titulo(p, QRect(104, 40, 300, 40), QStringLiteral("Corvina"), 28);
     p.setFont(fonte(12));
@@ -176,5 +166,14 @@ QImage janelaSobre(const QImage& verso) {
     p.drawText(QRect(104, 84, 316, 60), Qt::TextWordWrap,
                QStringLiteral("Um jogo de cartas da família do rummy: três trincas vencem a mão, "
                               "quatro mãos vencem a partida."));
+    return img;
+}
+
+QImage semCantos(const QImage& carta) {
+    QImage img = carta.convertToFormat(QImage::Format_ARGB32);
+    for (int y = 0; y < img.height(); ++y)
+        for (int x = 0; x < img.width(); ++x)
+            if (img.pixelColor(x, y) == QColor(21, 130, 64))
+                img.setPixelColor(x, y, Qt::transparent);
     return img;
 }

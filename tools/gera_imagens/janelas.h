@@ -14,3 +14,6 @@ QImage janelaTipos(const std::array<QImage, 8>& versos); // frmtipos, 338 by 261
 QImage janelaSimNao();                                   // FrmSimNao, 400 by 130
 QImage janelaPlacar();                                   // FrmPlacar, 345 by 176
 QImage janelaSobre(const QImage& verso);                 // FrmSobre's client area, 430 by 189
+
+// The corners of key colour made clear, to lay a card over something else.
+QImage semCantos(const QImage& carta);

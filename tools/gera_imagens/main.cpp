@@ -16,6 +16,7 @@
 #include <cmath>
 #include <cstdio>
 
+#include "core/carta.h"
 #include "janelas.h"
 
 namespace {
@@ -105,21 +106,6 @@ void desenhaNaipe(QPainter& p, int naipe, QPointF centro, double tamanho, bool i
     p.restore();
 }
 
-QString nomeDoValor(int valor) {
-    switch (valor) {
-    case 1:
-        return "A";
-    case 11:
-        return "J";
-    case 12:
-        return "Q";
-    case 13:
-        return "K";
-    default:
-        return QString::number(valor);
-    }
-}
-
 // The blank card: paper with rounded corners over the key colour, so the table shows there.
 QImage cartaEmBranco(const QColor& papel = kPapel) {
     QImage img(kLargura, kAltura, QImage::Format_RGB32);
@@ -144,7 +130,8 @@ void desenhaIndice(QPainter& p, int naipe, int valor) {
         if (valor == 10) f.setLetterSpacing(QFont::AbsoluteSpacing, -1);
         p.setFont(f);
         p.setPen(corDoNaipe(naipe));
-        p.drawText(QRectF(1, 2, 15, 14), Qt::AlignHCenter | Qt::AlignTop, nomeDoValor(valor));
+        p.drawText(QRectF(1, 2, 15, 14), Qt::AlignHCenter | Qt::AlignTop,
+                   QString(corvina::nomeDoValor(valor)));
         desenhaNaipe(p, naipe, QPointF(8.5, 21), 9);
         p.restore();
     }
@@ -231,7 +218,7 @@ void desenhaFigura(QPainter& p, int naipe, int valor) {
     p.setFont(f);
     p.setPen(corDoNaipe(naipe));
     p.drawText(QRectF(quadro.left(), quadro.top() + 16, quadro.width(), 28), Qt::AlignCenter,
-               nomeDoValor(valor));
+               QString(corvina::nomeDoValor(valor)));
     desenhaNaipe(p, naipe, QPointF(cx, quadro.bottom() - 15), 17);
 }
 
@@ -415,15 +402,6 @@ QImage botaoAceso(int i) {
     QPainter p(&img);
     p.setRenderHint(QPainter::Antialiasing, true);
     desenhaBotao(p, QRect(QPoint(0, 0), b.area.size()), QString::fromUtf8(b.palavra), true);
-    return img;
-}
-
-// The corners of key colour made clear, to lay a card over something else.
-QImage semCantos(const QImage& carta) {
-    QImage img = carta.convertToFormat(QImage::Format_ARGB32);
-    for (int y = 0; y < img.height(); ++y)
-        for (int x = 0; x < img.width(); ++x)
-            if (img.pixel(x, y) == kMesa.rgb()) img.setPixel(x, y, qRgba(0, 0, 0, 0));
     return img;
 }
 
