@@ -193,6 +193,17 @@ TEST(Descarte, MachineWinsAfterItsTurn) {
     EXPECT_TRUE(t.chamou("mostraContagens - 60"));
 }
 
+TEST(Descarte, MachineWinsWithTheLastCardOfTheStock) {
+    JogoDeTeste t;
+    t.arma(std::string(kJog) + " 13/1", "4/1 4/2 4/3 8/1 8/2 8/3 11/4 12/4 6/2", "9/4", "13/4");
+    EXPECT_EQ(descartaJog(t.jogo, 1), Descarte::MaoTerminou);
+    EXPECT_TRUE(t.chamou("mostraPeca costas 0")) << "the last card left the stock";
+    EXPECT_FALSE(t.chamou("caixaMensagem Acabou o Baralho|0|")) << "a win, not a spent stock";
+    EXPECT_EQ(t.jogo.modulo.pontosMac, 1);
+    EXPECT_TRUE(t.chamou("preparaPlacar Vencedor desta mão:  CPU|0|1|0"));
+    EXPECT_EQ(t.jogo.mesa.qtdBaralho, kCartasNoMonte) << "the next hand is dealt";
+}
+
 struct CasoFim {
     Lado quem;
     int16 pontosJog, pontosMac;
