@@ -2,6 +2,7 @@
 // A table whose sprites are plain data and whose platform does nothing: the handlers of the
 // mouse and of the sort button run on it as they run on the screen.
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -23,7 +24,8 @@ class VistaDeCenaQuieta : public VistaDeCena {
         return kBotaoOk;
     }
     void preparaPlacar(const Placar&) override {}
-    void abreJanela(Janela) override {}
+    std::function<void(Janela)> aoAbrirJanela = [](Janela) {};
+    void abreJanela(Janela j) override { aoAbrirJanela(j); }
     void tocaSom(const std::string& arquivo, bool) override { sons.push_back(arquivo); }
     void espera(int) override { ++esperas; }
     void processaEventos() override {}

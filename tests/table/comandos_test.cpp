@@ -1,0 +1,102 @@
+// The table's commands around the play: keys and toolbar words, the card back, a new match.
+
+#include <gtest/gtest.h>
+
+#include "apoio/mesa_de_cena.h"
+#include "core/ajustes.h"
+#include "core/pecas.h"
+#include "core/vista_nula.h"
+#include "table/comandos.h"
+
+namespace corvina {
+namespace {
+
+using teste::MesaDeCena;
+
+constexpr const char* kNove = "2/2 4/3 6/4 8/1 10/2 12/3 1/4 3/1 5/2";
+constexpr const char* kMac = "1/1 3/2 5/3 7/4 9/1 11/2 13/3 2/4 6/1";
+
+struct Tecla {
+    int codigo, shift;
+    const char* janela; // the window it opens, nullptr for none
+    PedidoDaTecla pedido;
+    bool clique; // a toolbar command ran: its click is heard
+};
+
+TEST(Comandos, EachKeyDoesWhatItsButtonDoes) {
+    const Tecla casos[] = {
+        {113, 0, "frmtipos", PedidoDaTecla::Nenhum, true},
+        {114, 0, "FrmNome", PedidoDaTecla::Nenhum, true},
+        {115, 0, "FrmOpc", PedidoDaTecla::Nenhum, true},
+        {116, 0, "FrmRecords", PedidoDaTecla::Nenhum, true},
+        {117, 0, nullptr, PedidoDaTecla::Ajuda, true},
+        {112, 0, nullptr, PedidoDaTecla::Nenhum, false}, // F1 alone: nothing
+        {112, 1, nullptr, PedidoDaTecla::Nenhum, false}, // nor with Shift
+        {121, 0, nullptr, PedidoDaTecla::Nenhum, false}, // F10 answered no
+        {118, 0, nullptr, PedidoDaTecla::Nenhum, false}, // F7: the back only
+    };
+    for (const Tecla& c : casos) {
+        MesaDeCena t;
+        t.arma(kNove, kMac);
+        t.jogo.modulo.tocarSom = true;
+        t.jogo.modulo.tipoCarta = 4;
+        std::vector<std::string> abertas;
+        t.vista.aoAbrirJanela = [&](Janela j) {
+            abertas.push_back(nomeDaJanela(j));
+            t.jogo.modulo.nomeCancelado = true;
+        };
+        EXPECT_EQ(Form_KeyDown(t.jogo, c.codigo, c.shift), c.pedido) << c.codigo;
+        EXPECT_EQ(abertas,
+                  c.janela ? std::vector<std::string>{c.janela} : std::vector<std::string>{})
+            << c.codigo;
+        EXPECT_EQ(t.vista.sons,
+                  c.clique ? std::vector<std::string>{"\\CLICK2.wav"} : std::vector<std::string>{})
+            << c.codigo;
+    }
+}
+
+TEST(Comandos, TheClickIsHeardOnlyWithSoundOnAndTheLastTwoButtonsClose) {
+    MesaDeCena t;
+    t.arma(kNove, kMac);
+    t.jogo.modulo.tocarSom = false;
+    EXPECT_EQ(Btn_Click(t.jogo, kBotaoSair), PedidoDaTecla::Fechar);
+    EXPECT_EQ(Btn_Click(t.jogo, kBotaoFechar), PedidoDaTecla::Fechar);
+    EXPECT_TRUE(t.vista.sons.empty());
+}
+
+TEST(Comandos, ACancelledNewMatchKeepsTheHandAndOnlyTheToolbarCanCancel) {
+    MesaDeCena t;
+    t.arma(kNove, kMac);
+    t.jogo.modulo.pontosJog = 3;
+    bool cancelavel = false;
+    t.vista.aoAbrirJanela = [&](Janela) {
+        cancelavel = t.jogo.cancelarNome;
+        t.jogo.modulo.nomeCancelado = true;
+    };
+    Btn_Click(t.jogo, kBotaoNovo);
+    EXPECT_TRUE(cancelavel);
+    EXPECT_FALSE(t.jogo.cancelarNome) << "the next opening starts without its cancel";
+    EXPECT_EQ(t.jogo.modulo.pontosJog, 3);
+    EXPECT_EQ(t.jogo.mesa.qtdBaralho, 2) << "the hand in progress goes on";
+}
+
+TEST(Comandos, ABackThatDoesntExistKeepsThePictureAndTheKeysWrap) {
+    MesaDeCena t;
+    t.vista.armazem.grava(chaveBase(), "TipoCarta", "99");
+    Form_Load(t.jogo);
+    EXPECT_EQ(t.jogo.modulo.tipoCarta, 99) << "not checked, as stored";
+    EXPECT_EQ(t.sprite(peca::kCostas2).Picture, figuraDoVerso(4)) << "the back it was drawn with";
+    Form_KeyDown(t.jogo, 119, 0); // F8: above 8 wraps to 1
+    EXPECT_EQ(t.jogo.modulo.tipoCarta, 1);
+    EXPECT_EQ(t.sprite(peca::kCostas2).Picture, figuraDoVerso(1));
+    Form_KeyDown(t.jogo, 118, 0); // F7: below 1 wraps to 8
+    EXPECT_EQ(t.jogo.modulo.tipoCarta, 8);
+    EXPECT_EQ(t.sprite(peca::picture3(2)).Picture, figuraDoVerso(8));
+
+    t.vista.aoAbrirJanela = [&](Janela) { t.jogo.modulo.tipoCarta = 6; };
+    Btn_Click(t.jogo, kBotaoCartas);
+    EXPECT_EQ(t.sprite(peca::kCostas2).Picture, figuraDoVerso(6)) << "a back chosen repaints";
+}
+
+} // namespace
+} // namespace corvina
