@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QMediaDevices>
 #include <QTimer>
+#include <QtGlobal>
 
 #include "shell/audio/onda_pcm.h"
 
@@ -22,7 +23,19 @@ struct OndasQt::Onda {
     int milissegundos = 0;
 };
 
-OndasQt::OndasQt() = default;
+namespace {
+QtMessageHandler avisosAnteriores = nullptr;
+
+// A desktop without a sound server is silence, not a warning on every start.
+void semAvisosDeAudio(QtMsgType tipo, const QMessageLogContext& contexto, const QString& texto) {
+    if (texto.startsWith("PulseAudioService:")) return;
+    if (avisosAnteriores) avisosAnteriores(tipo, contexto, texto);
+}
+} // namespace
+
+OndasQt::OndasQt() {
+    if (!avisosAnteriores) avisosAnteriores = qInstallMessageHandler(semAvisosDeAudio);
+}
 
 OndasQt::~OndasQt() {
     para();

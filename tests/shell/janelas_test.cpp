@@ -31,9 +31,14 @@
 namespace corvina {
 namespace {
 
+// The windows a test waits for; each must have opened by the end of the test.
+std::vector<std::pair<std::string, std::shared_ptr<bool>>> esperadas;
+
 // Runs `acao` on the window named `nome` once it has stood open as the modal window for a few
 // turns of its loop (so that its own first activation has run), from inside that loop.
 void quandoAbrir(const char* nome, std::function<void(QWidget*)> acao) {
+    auto feito = std::make_shared<bool>(false);
+    esperadas.emplace_back(nome, feito);
     auto* relogio = new QTimer;
     relogio->setInterval(5);
     auto vezes = std::make_shared<int>(0);
@@ -46,6 +51,7 @@ void quandoAbrir(const char* nome, std::function<void(QWidget*)> acao) {
         if (++*vezes < 4) return;
         relogio->stop();
         relogio->deleteLater();
+        *feito = true;
         acao(w);
     });
     relogio->start();
@@ -74,7 +80,8 @@ struct Mesa : testing::Test {
     VistaQt vista{settings};
     OndasGravadas ondas;
     MidiGravado midi;
-    Som som{"/sons", ondas, midi};
+    std::string sons = pastaDosSons().toStdString();
+    Som som{sons, ondas, midi};
     AcasoSemente acaso{7};
     Jogo jogo{vista, acaso};
     JanelasQt janelas{jogo, settings, &som, "0.1"};
@@ -87,6 +94,10 @@ struct Mesa : testing::Test {
         vista.modoDeTeste(true);
         janelas.dono(&janela);
         settings.grava(chaveBase(), ajuste::kPrimeiraVez, "1");
+        esperadas.clear();
+    }
+    ~Mesa() override {
+        for (const auto& [nome, feito] : esperadas) EXPECT_TRUE(*feito) << nome << " never opened";
     }
     void lista(std::initializer_list<const char*> nomes) {
         int n = 1;
@@ -106,6 +117,12 @@ struct Mesa : testing::Test {
         QTest::keyClick(&janela, k, m);
     }
     std::string ajuste(const char* nome) { return settings.le(chaveBase(), nome, ""); }
+    // The files played, by name, in order.
+    std::vector<std::string> tocados() const {
+        std::vector<std::string> nomes;
+        for (const std::string& t : ondas.tocadas) nomes.push_back(t.substr(t.rfind('/') + 1));
+        return nomes;
+    }
 };
 
 TEST_F(Mesa, AFirstPlayerIsRegisteredAndPlaysInAssistedMode) {
@@ -145,7 +162,7 @@ TEST_F(Mesa, NewMatchFromTheToolbarCanBeCancelledOrPlayed) {
     EXPECT_EQ(jogo.modulo.pontosJog, 2) << "cancelled: the hand goes on";
     EXPECT_EQ(cartaNa(jogo.mesa.jogValor, jogo.mesa.jogNaipe, 1), primeira);
     EXPECT_EQ(jogo.modulo.nomeJogador, "Bia") << "the name follows the selection";
-    EXPECT_EQ(ondas.tocadas, std::vector<std::string>{}) << "no sound files under /sons";
+    EXPECT_EQ(tocados(), std::vector<std::string>{"click2.wav"}) << "F3 is the NOVO button";
 
     jogo.modulo.tocarMusica = true;
     midi.comandos.clear();
@@ -196,6 +213,7 @@ TEST_F(Mesa, ABackIsChosenWithAClickAndEscapeChangesNothing) {
     EXPECT_EQ(jogo.modulo.tipoCarta, 7);
     EXPECT_EQ(vista.cena()[peca::kCostas2].Picture, figuraDoVerso(7)) << "the stock turned";
     EXPECT_EQ(ajuste("TipoCarta"), "") << "stored only when the table closes";
+    EXPECT_EQ(tocados(), std::vector<std::string>(3, "click2.wav")) << "two keys, one back chosen";
 }
 
 TEST_F(Mesa, TheHallOfFameShowsTheBestAndCanBeWiped) {
@@ -219,33 +237,43 @@ TEST_F(Mesa, TheHallOfFameShowsTheBestAndCanBeWiped) {
     });
     tecla(Qt::Key_F5);
     EXPECT_EQ(settings.le(chaveJogador("Bia"), "Saldo", "vazio"), "vazio");
-    EXPECT_EQ(ondas.tocadas.size(), 0u) << "no files under /sons: silence";
+    EXPECT_EQ(tocados(), (std::vector<std::string>{"click2.wav", "delete.wav"}));
     EXPECT_EQ(midi.comandos,
-              (std::vector<std::string>{"close musica",
-                                        "open /sons\\passport.mid type sequencer alias musica",
-                                        "play musica", "Close musica"}));
+              (std::vector<std::string>{
+                  "close musica", "open " + sons + "\\passport.mid type sequencer alias musica",
+                  "play musica", "Close musica"}));
 }
 
-TEST_F(Mesa, EveryToolbarWordClicksWhenSoundIsOn) {
+TEST_F(Mesa, EveryToolbarWordClicksWhenSoundIsOnAndTheAboutPictureOpensItsWindow) {
     lista({"Ana"});
     abre([](QWidget* w) { clica(w, "Label9"); });
-    Som real(pastaDosSons().toStdString(), ondas, midi);
-    vista.som(&real);
     jogo.modulo.tocarSom = true;
-    for (const char* nome : {"FrmOpc", "FrmRecords", "frmtipos"})
-        quandoAbrir(nome, [](QWidget* w) { QTest::keyClick(w, Qt::Key_Escape); });
-    quandoAbrir("FrmOpc", [](QWidget* w) { clica(w, "Label5"); });
-    for (const int x : {210, 340, 470})
-        QTest::mouseClick(&janela, Qt::LeftButton, {}, QPoint(x, 95));
-    quandoAbrir("FrmOpc", [](QWidget* w) { clica(w, "Label5"); });
-    tecla(Qt::Key_F4);
-    ASSERT_EQ(ondas.tocadas.size(), 4u) << "three buttons and the key that stands for one";
-    for (const std::string& t : ondas.tocadas) EXPECT_TRUE(t.ends_with("/click2.wav")) << t;
+    const struct {
+        int x;
+        const char* janela;
+        const char* fecha; // the part that closes it
+    } botoes[] = {{210, "FrmOpc", "Label5"}, {340, "FrmRecords", "Image3"}, {470, "frmtipos", ""}};
+    for (const auto& b : botoes) {
+        quandoAbrir(b.janela, [&](QWidget* w) {
+            if (*b.fecha)
+                clica(w, b.fecha);
+            else
+                QTest::keyClick(w, Qt::Key_Escape);
+        });
+        QTest::mouseClick(&janela, Qt::LeftButton, {}, QPoint(b.x, 95));
+    }
+    EXPECT_EQ(tocados(), std::vector<std::string>(3, "click2.wav"));
     jogo.modulo.tocarSom = false;
     quandoAbrir("FrmRecords", [](QWidget* w) { QTest::keyClick(w, Qt::Key_Escape); });
     QTest::mouseClick(&janela, Qt::LeftButton, {}, QPoint(340, 95));
-    EXPECT_EQ(ondas.tocadas.size(), 4u);
-    vista.som(&som);
+    EXPECT_EQ(tocados().size(), 3u) << "sound off: silence";
+
+    quandoAbrir("FrmSobre", [](QWidget* w) {
+        EXPECT_EQ(w->windowTitle(), " Sobre o Corvina");
+        EXPECT_EQ(parte<QLabel>(w, "Label1")->text(), "Lunaris - Corvina  0.1");
+        clica(w, "Command1");
+    });
+    QTest::mouseClick(&janela, Qt::LeftButton, {}, QPoint(690, 40));
 }
 
 TEST(FrmSimNao, EnterAnswersYesAndEscapeNo) {
