@@ -16,7 +16,8 @@ void leConfig(Jogo& jogo) {
     const std::string base = chaveBase();
     g.tipoCarta =
         static_cast<int16>(numeroDoTexto(v.leAjuste(base, ajuste::kTipocarta, kTipoCartaPadrao)));
-    const long velocidade = numeroDoTexto(v.leAjuste(base, ajuste::kVelocidade, "6"));
+    const long velocidade =
+        numeroDoTexto(v.leAjuste(base, ajuste::kVelocidade, std::to_string(kVelocidadePadrao)));
     // Only what the options window can set: another value would make a flight last minutes.
     g.velocidade = static_cast<int16>(
         velocidade >= kVelocidadeMinima && velocidade <= kVelocidadeMaxima ? velocidade

@@ -20,13 +20,14 @@ inline constexpr int16 kValores = 13;
 inline constexpr int16 kNaipes = 4;
 inline constexpr int16 kCartasPorBaralho = kValores * kNaipes;
 
+inline constexpr int16 kCartasNoJogo = 2 * kCartasPorBaralho;
+
 // The corner index of a value: "A", "2" .. "10", "J", "Q", "K".
 constexpr const char* nomeDoValor(int valor) {
     constexpr const char* kNomes[] = {"?", "A", "2", "3",  "4", "5", "6",
                                       "7", "8", "9", "10", "J", "Q", "K"};
     return valor >= 1 && valor <= kValores ? kNomes[valor] : kNomes[0];
 }
-inline constexpr int16 kCartasNoJogo = 2 * kCartasPorBaralho;
 
 struct Carta {
     int16 valor = 0;
