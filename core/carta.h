@@ -19,7 +19,6 @@ inline constexpr int16 kValores = 13;
 // Suits: 1 hearts, 2 clubs, 3 diamonds, 4 spades.
 inline constexpr int16 kNaipes = 4;
 inline constexpr int16 kCartasPorBaralho = kValores * kNaipes;
-
 inline constexpr int16 kCartasNoJogo = 2 * kCartasPorBaralho;
 
 // The corner index of a value: "A", "2" .. "10", "J", "Q", "K".
