@@ -1,0 +1,133 @@
+// The rules of the update that need no network: the answer's fields, which version is newer,
+// what the check tells the player, the download's bookkeeping and the bar's geometry.
+
+#include <gtest/gtest.h>
+
+#include "update/barra_de_progresso.h"
+#include "update/campos.h"
+#include "update/controle_download.h"
+#include "update/resposta.h"
+#include "update/versao.h"
+
+namespace corvina {
+namespace {
+
+TEST(Campo, FieldsBetweenDelimitersAddedWhereMissing) {
+    const struct {
+        const char* texto;
+        const char* delim;
+        int n;
+        const char* campo;
+    } casos[] = {
+        {"!*!x!*!3.8.0!*!https://a/b.deb!*!", "!*!", 1, "x"},
+        {"!*!x!*!3.8.0!*!https://a/b.deb!*!", "!*!", 2, "3.8.0"},
+        {"!*!x!*!3.8.0!*!https://a/b.deb\r\n", "!*!", 3, "https://a/b.deb\r\n"},
+        {"!*!x!*!3.8.0!*!https://a/b.deb!*!", "!*!", 4, ""},
+        {"x!*!y", "!*!", 1, "x"},
+        {"3.7.10", ".", 3, "10"},
+        {"3.7", ".", 3, ""},
+        {"", ".", 1, ""},
+        {"a.b", ".", 0, ""},
+    };
+    for (const auto& c : casos)
+        EXPECT_EQ(campo(c.texto, c.delim, c.n), c.campo) << c.texto << " " << c.n;
+    EXPECT_EQ(troca("Corvina do Sul", " ", "%20"), "Corvina%20do%20Sul");
+    EXPECT_EQ(troca("aXa", "a", "ba"), "aXa")
+        << "a replacement holding what it replaces is refused";
+}
+
+TEST(MaiorVersion, ComparesTheVersionsAsTheirTextsCompare) {
+    const struct {
+        const char *local, *remota;
+        bool maior;
+    } casos[] = {
+        {"3.7.4", "3.8.0", true},
+        {"3.7.4", "3.7.4", false},
+        {"3.7.4", "3.7.3", false},
+        {"3.7.4", "3.7.10", true},
+        {"3.8.0", "3.7.10", false}, // 380 both
+        {"3.7.4", "10.0.0", false}, // "1000" sorts before "374"
+        {"0.1.0", "0.2", true},
+        {"0.1.0", "lixo", false},
+        {"0.1.0", "99999999999999999999.9.9", true}, // no overflow: a long text sorts after
+    };
+    for (const auto& c : casos) EXPECT_EQ(MaiorVersion(c.local, c.remota), c.maior) << c.remota;
+    EXPECT_EQ(versaoParaChecagem({3, 7, 0}), "3.7.0");
+    EXPECT_EQ(versaoParaUsuario({3, 7, 0}), "3.7");
+    EXPECT_EQ(versaoParaUsuario({3, 7, 4}), "3.7.4");
+}
+
+TEST(Resposta, TheLastLineWithItsLineEndAndWhatThePlayerIsTold) {
+    EXPECT_EQ(ultimaLinha("primeira\r\n!*!x!*!3.8.0!*!u!*!\r\n"), "!*!x!*!3.8.0!*!u!*!\r\n");
+    EXPECT_EQ(ultimaLinha("sem quebra"), "sem quebra\r\n");
+    EXPECT_EQ(ultimaLinha("a\rb"), "b\r\n");
+    EXPECT_EQ(ultimaLinha(""), "");
+    EXPECT_EQ(ultimaLinha("\r\n"), "\r\n");
+
+    EXPECT_EQ(avaliaResposta("", "0.1.0", "Corvina"), "Não foi possível conectar ao servidor");
+    EXPECT_EQ(avaliaResposta("<html>404</html>", "0.1.0", "Corvina"),
+              "Não foi possível conectar ao servidor");
+    EXPECT_EQ(avaliaResposta("!*!x!*!0.1.0!*!u!*!\r\n", "0.1.0", "Corvina"),
+              "Você já está utilizando a versão mais recente do Corvina");
+    const std::string oferta =
+        avaliaResposta("!*!x!*!0.2.0!*!https://a/c.deb!*!\r\n", "0.1.0", "Corvina");
+    EXPECT_EQ(campo(oferta, "!*!", 1), "Link");
+    EXPECT_EQ(campo(oferta, "!*!", 3), "0.2.0");
+    EXPECT_EQ(campo(oferta, "!*!", 4), "https://a/c.deb");
+    EXPECT_NE(campo(avaliaResposta("x!*!0.2.0!*!u", "0.1.0", "Corvina"), "!*!", 1), "Link")
+        << "without the leading delimiter the raw answer is shown";
+}
+
+TEST(ControleDeDownload, ThePercentageFollowsTheBytesAndTheWatchdogTheSilence) {
+    ControleDeDownload c;
+    c.inicia(0, 8);
+    const struct {
+        std::int64_t lidos, total;
+        int percentual;
+    } passos[] = {{0, 100, 0}, {1, 3, 33}, {2, 3, 67}, {1, 8, 12}, {3, 8, 38}, {5, 0, 38}};
+    double agora = 0;
+    for (const auto& p : passos) {
+        c.progresso(p.lidos, p.total, agora += 5);
+        EXPECT_EQ(c.percentual(), p.percentual) << p.lidos << "/" << p.total;
+        EXPECT_FALSE(c.expirou(agora + 7.9)) << "data keeps coming: never given up";
+    }
+    c.completo();
+    EXPECT_EQ(c.situacao(), Situacao::Falhou) << "38 % is not complete";
+
+    ControleDeDownload d;
+    d.inicia(0, 8);
+    d.progresso(10, 10, 1);
+    d.completo();
+    EXPECT_EQ(d.situacao(), Situacao::Completo);
+
+    ControleDeDownload e;
+    e.inicia(0, 8);
+    EXPECT_FALSE(e.expirou(8));
+    EXPECT_TRUE(e.expirou(8.1));
+    e.progresso(10, 10, 9);
+    e.completo();
+    EXPECT_EQ(e.situacao(), Situacao::Correndo) << "once given up, nothing is heard";
+    e.inicia(20, 8);
+    EXPECT_FALSE(e.expirou(27)) << "a later read ends by the watchdog, not at once";
+    EXPECT_TRUE(e.expirou(28.5));
+}
+
+TEST(BarraDeProgresso, TheBlocksFollowThePercentageWithTheDivisorOf98) {
+    constexpr int kLargura = 289; // 4335 twips
+    const struct {
+        long valor;
+        int percentual, fim;
+    } casos[] = {{0, 0, 12},    {5, 5, 12},      {50, 50, 147},
+                 {98, 98, 283}, {100, 100, 283}, {150, 100, 283}};
+    for (const auto& c : casos) {
+        EXPECT_EQ(percentualDaBarra(c.valor, 100, 0), c.percentual) << c.valor;
+        const int fim = fimDoPreenchimento(kLargura, c.percentual);
+        EXPECT_EQ(fim, c.fim) << c.valor;
+        EXPECT_EQ((fim - kBordaInterna) % kPasso == 0 || fim == 12, true) << "whole steps";
+    }
+    EXPECT_EQ(tinta({49, 106, 197}), (Cor{170, 193, 231}));
+    EXPECT_EQ(tinta({255, 255, 255}), (Cor{255, 255, 255}));
+}
+
+} // namespace
+} // namespace corvina

@@ -1,0 +1,18 @@
+#pragma once
+// The words of the update, exactly as the player reads them.
+
+namespace corvina::texto {
+
+inline constexpr const char* kSemConexao = "Não foi possível conectar ao servidor";
+inline constexpr const char* kJaRecente = "Você já está utilizando a versão mais recente do ";
+inline constexpr const char* kUtilizando = "Você está utilizando a versão ";
+inline constexpr const char* kDesejaAtualizar = "Deseja atualizar para a versão ";
+inline constexpr const char* kAgora = " agora?";
+inline constexpr const char* kSemDownload = "Não foi possivel fazer o download da atualização";
+inline constexpr const char* kSemInstalador = "Não foi possivel localizar o arquivo de instalação";
+inline constexpr const char* kTenteDepois =
+    "Tente novamente mais tarde ou faça o download no site ";
+inline constexpr const char* kSeraFechado = " será fechado para que a atualização seja feita";
+inline constexpr const char* kLink = "Link";
+
+} // namespace corvina::texto
