@@ -24,6 +24,10 @@ void ControleDeDownload::completo() {
     situacao_ = percentual_ > 99 ? Situacao::Completo : Situacao::Falhou;
 }
 
+void ControleDeDownload::falhou() {
+    if (!abortado_) situacao_ = Situacao::Falhou;
+}
+
 bool ControleDeDownload::expirou(double agora) {
     const bool expirou = agora > ultimoSinal_ + limite_;
     if (expirou) abortado_ = true;

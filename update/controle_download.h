@@ -16,6 +16,8 @@ class ControleDeDownload {
     void progresso(std::int64_t lidos, std::int64_t total, double agora);
     // The read ended; complete only above 99 %.
     void completo();
+    // The read ended with an error of the network or of the disk: failed, whatever had come.
+    void falhou();
     void cancela() { situacao_ = Situacao::Cancelado; }
     // True when the silence has lasted past the limit; the read is then given up for good:
     // whatever the instance hears later is ignored, so its later reads end by the watchdog.

@@ -1,5 +1,7 @@
 #include "players/qt/pastas.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QStandardPaths>
 
 #include "core/ajustes.h"
@@ -13,6 +15,16 @@ QString pastaDeDados() {
 QString arquivoDeAjustes() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/Lunaris/" +
            kTitulo + ".ini";
+}
+
+QString pastaPessoal() {
+    const QString documentos = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QFileInfo(documentos).isDir() ? documentos : QDir::homePath();
+}
+
+QString pastaTemporaria() {
+    const QString temp = qEnvironmentVariable("TEMP");
+    return !temp.isEmpty() && QFileInfo(temp).isDir() ? temp : QDir::tempPath();
 }
 
 } // namespace corvina

@@ -11,4 +11,10 @@ QString pastaDeDados();
 // The settings file of the user: $XDG_CONFIG_HOME/Lunaris/Corvina.ini.
 QString arquivoDeAjustes();
 
+// The user's documents folder (the home folder when there is none), where an update lands.
+QString pastaPessoal();
+
+// A folder for temporary files: $TEMP when it names a folder, else the system's.
+QString pastaTemporaria();
+
 } // namespace corvina

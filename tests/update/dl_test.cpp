@@ -1,0 +1,134 @@
+// DL against a real HTTPS server on the loopback address: answers, redirects, silences,
+// trickles, endless bodies, garbage and missing files; short watchdogs stand in for the game's.
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "servidor_https.h"
+#include "update/qt/dl.h"
+
+namespace corvina {
+namespace {
+
+using teste::Resposta;
+using teste::ServidorHttps;
+
+struct Download : testing::Test {
+    ServidorHttps servidor;
+    QTemporaryDir pasta;
+    Download() {
+        servidor.confiaNoCertificado();
+        qputenv("TEMP", pasta.path().toUtf8());
+    }
+    QString destino(const char* nome) const { return pasta.filePath(nome); }
+    static QByteArray conteudo(const QString& arquivo) {
+        QFile f(arquivo);
+        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("(none)");
+    }
+};
+
+TEST_F(Download, TheTextIsTheLastLineWithItsLineEnd) {
+    servidor.caminhos["/update.php?prog=Corvina"] =
+        Resposta::texto("aviso\r\n!*!x!*!0.2.0!*!https://a/b.deb!*!");
+    servidor.caminhos["/velho"] =
+        Resposta::so(Resposta::Tipo::Redireciona, servidor.url("/update.php?prog=Corvina"));
+    DL dl;
+    EXPECT_EQ(dl.GetConteudo(servidor.url("/update.php?prog=Corvina")),
+              "!*!x!*!0.2.0!*!https://a/b.deb!*!\r\n");
+    EXPECT_EQ(dl.GetConteudo(servidor.url("/velho")), "!*!x!*!0.2.0!*!https://a/b.deb!*!\r\n")
+        << "redirects are followed";
+    EXPECT_FALSE(QFile::exists(destino("temp01.dat"))) << "the temporary file is deleted";
+    EXPECT_EQ(dl.GetConteudo(servidor.url("/nao-ha")), "") << "a 404 is no answer";
+}
+
+TEST_F(Download, PlainHttpIsNeverFetched) {
+    DL dl;
+    const int antes = servidor.pedidos;
+    EXPECT_EQ(dl.GetConteudo(QString(servidor.url("/x")).replace("https:", "http:")), "");
+    EXPECT_EQ(dl.Download("http://127.0.0.1:1/x.deb", destino("x.deb"), {}), Situacao::Falhou);
+    EXPECT_EQ(servidor.pedidos, antes);
+}
+
+TEST_F(Download, ASilentServerIsGivenUpAndTheInstanceStaysGivenUp) {
+    servidor.caminhos["/mudo"] = Resposta::so(Resposta::Tipo::Silencio);
+    servidor.caminhos["/bom"] = Resposta::texto("!*!a!*!1.0.0!*!u!*!");
+    DL dl;
+    EXPECT_EQ(dl.GetConteudo(servidor.url("/mudo"), "Id", 0.4), "");
+    EXPECT_TRUE(dl.abortado());
+    EXPECT_EQ(dl.GetConteudo(servidor.url("/bom"), "Id", 0.4), "")
+        << "after a give-up the same instance fails by the watchdog";
+    DL nova;
+    EXPECT_EQ(nova.GetConteudo(servidor.url("/bom"), "Id", 2), "!*!a!*!1.0.0!*!u!*!\r\n");
+}
+
+TEST_F(Download, AFileArrivesWithItsProgressAndASlowOneIsNotGivenUp) {
+    const QByteArray pacote(200 * 1024, 'p');
+    servidor.caminhos["/c.deb"] = Resposta::texto(pacote);
+    servidor.caminhos["/lento.deb"] = Resposta::gotejando(QByteArray(8 * 1024, 'l'), 1024, 100);
+    DL dl;
+    std::vector<int> valores;
+    EXPECT_EQ(
+        dl.Download(servidor.url("/c.deb"), destino("c.deb"), [&](int v) { valores.push_back(v); }),
+        Situacao::Completo);
+    EXPECT_EQ(conteudo(destino("c.deb")), pacote);
+    ASSERT_FALSE(valores.empty());
+    EXPECT_EQ(valores.back(), 100);
+    EXPECT_TRUE(std::is_sorted(valores.begin(), valores.end()));
+
+    // About 0.8 s in all, never silent for 0.5 s.
+    DL lento;
+    EXPECT_EQ(lento.Download(servidor.url("/lento.deb"), destino("lento.deb"), {}, "Id", 0.5),
+              Situacao::Completo);
+    EXPECT_EQ(conteudo(destino("lento.deb")).size(), 8 * 1024);
+}
+
+TEST_F(Download, FailuresLeaveNoFileAndAnExistingOneAlone) {
+    servidor.caminhos["/sem-tamanho.deb"] = Resposta::texto("abc", 200, false);
+    servidor.caminhos["/lixo"] = Resposta::so(Resposta::Tipo::Lixo);
+    servidor.caminhos["/ok.deb"] = Resposta::texto("novo");
+    {
+        DL dl;
+        EXPECT_EQ(dl.Download(servidor.url("/sem-tamanho.deb"), destino("s.deb"), {}),
+                  Situacao::Falhou)
+            << "no total told: the percentage never passes 99";
+    }
+    {
+        DL dl;
+        EXPECT_EQ(dl.Download(servidor.url("/lixo"), destino("l.deb"), {}), Situacao::Falhou);
+        EXPECT_FALSE(QFile::exists(destino("l.deb")));
+    }
+    {
+        DL dl;
+        EXPECT_EQ(dl.Download(servidor.url("/nada.deb"), destino("n.deb"), {}), Situacao::Falhou);
+        EXPECT_FALSE(QFile::exists(destino("n.deb")));
+    }
+    {
+        QFile velho(destino("ok.deb"));
+        ASSERT_TRUE(velho.open(QIODevice::WriteOnly));
+        velho.write("velho");
+        velho.close();
+        DL dl;
+        EXPECT_EQ(dl.Download(servidor.url("/ok.deb"), destino("ok.deb"), {}), Situacao::Completo);
+        EXPECT_EQ(conteudo(destino("ok.deb")), "velho") << "an existing file is not replaced";
+    }
+    {
+        DL dl;
+        EXPECT_EQ(dl.Download(servidor.url("/ok.deb"), "/proc/corvina/ok.deb", {}),
+                  Situacao::Falhou)
+            << "a folder that can't be written";
+    }
+    const QStringList sobras = QDir(pasta.path()).entryList(QDir::Hidden | QDir::Files);
+    EXPECT_EQ(sobras, QStringList({"ok.deb", "s.deb"})) << "no temporary file is left behind";
+}
+
+TEST_F(Download, AnEndlessAnswerIsCutShort) {
+    servidor.caminhos["/sem-fim"] = Resposta::semFimDe(64 * 1024 * 1024);
+    DL dl;
+    EXPECT_EQ(dl.GetConteudo(servidor.url("/sem-fim"), "Id", 5), "");
+}
+
+} // namespace
+} // namespace corvina
