@@ -17,6 +17,8 @@
 #include "players/hall_da_fama.h"
 #include "players/lista_de_jogadores.h"
 #include "table/ordenar.h"
+#include "update/campos.h"
+#include "update/versao.h"
 
 namespace corvina::cli {
 
@@ -59,6 +61,10 @@ Requests and answers:
       -> {"linhas":[{"nome":"..","vitorias":V,"derrotas":D,"saldo":S,"verde":B},...]}
          the rows of the hall of fame for players in list order (at most 50); a value may
          be a number or the text the store holds, and an empty or absent one counts 0
+  {"op":"maiorVersion","local":"3.7.4","remota":"3.8.0"}
+      -> {"maior":true|false}   whether the update server's version counts as newer
+  {"op":"campo","texto":"..","delimitador":"!*!","n":N}
+      -> {"campo":".."}   the Nth field (from 1) of a server's answer
   {"op":"selfplay","seed":S,"matches":N}
       -> {"matches":N,"hands":..,"handsWonJog":..,"handsWonMac":..,"handsNoWinner":..,
           "exchanges":..,"matchesWonJog":..,"matchesWonMac":..,"seconds":..}
@@ -328,6 +334,11 @@ json atende(const json& p) {
     if (op == "selfplay") return autojogo(p);
     if (op == "sortButton") return botaoOrdenar(p);
     if (op == "hallDaFama") return hallDaFama(p);
+    if (op == "maiorVersion")
+        return {{"maior", MaiorVersion(texto(p, "local"), texto(p, "remota"))}};
+    if (op == "campo")
+        return {{"campo", corvina::campo(texto(p, "texto"), texto(p, "delimitador"),
+                                         static_cast<int>(inteiro(p, "n", 0, INT32_MAX)))}};
     throw PedidoInvalido("unknown op \"" + op + "\"");
 }
 

@@ -60,6 +60,12 @@ INSTANTIATE_TEST_SUITE_P(
         Caso{
             R"({"op":"sortButton","hand":["13/4","1/4","7/3","6/2","12/4","5/2","7/2","4/2","7/1"],"ordemAuto":0,"assistido":1,"avisoOrdenar":true})",
             R"({"hand":["1/4","12/4","13/4","4/2","5/2","6/2","7/3","7/2","7/1"],"ordemAuto":1,"caption":"Auto 1","status":"3 trincas","win":true,"messages":[]})"},
+        // the update's text rules
+        Caso{R"({"op":"maiorVersion","local":"3.7.4","remota":"3.8.0"})", R"({"maior":true})"},
+        Caso{R"({"op":"maiorVersion","local":"3.8.0","remota":"3.7.10"})", R"({"maior":false})"},
+        Caso{R"({"op":"campo","texto":"!*!Link!*!x!*!3.8.0!*!u!*!","delimitador":"!*!","n":3})",
+             R"({"campo":"x"})"},
+        Caso{R"({"op":"campo","texto":"a.b","delimitador":".","n":5})", R"({"campo":""})"},
         // bad requests: an error that names the fault
         Caso{"not json", R"({"error":"invalid JSON at byte 2"})"},
         Caso{"{\"op\":\"\xff\xfe\"}", R"({"error":"invalid JSON at byte 8"})"},
