@@ -64,7 +64,7 @@ INSTANTIATE_TEST_SUITE_P(
         Caso{R"({"op":"maiorVersion","local":"3.7.4","remota":"3.8.0"})", R"({"maior":true})"},
         Caso{R"({"op":"maiorVersion","local":"3.8.0","remota":"3.7.10"})", R"({"maior":false})"},
         Caso{R"({"op":"campo","texto":"!*!Link!*!x!*!3.8.0!*!u!*!","delimitador":"!*!","n":3})",
-             R"({"campo":"x"})"},
+             R"({"campo":"3.8.0"})"},
         Caso{R"({"op":"campo","texto":"a.b","delimitador":".","n":5})", R"({"campo":""})"},
         // bad requests: an error that names the fault
         Caso{"not json", R"({"error":"invalid JSON at byte 2"})"},
