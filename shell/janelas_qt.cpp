@@ -4,8 +4,8 @@
 #include "players/qt/frm_opc.h"
 #include "players/qt/frm_placar.h"
 #include "players/qt/frm_records.h"
-#include "players/qt/frm_sobre.h"
 #include "players/qt/frm_tipos.h"
+#include "update/qt/frm_sobre.h"
 
 namespace corvina {
 

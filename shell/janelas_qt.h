@@ -1,19 +1,19 @@
 #pragma once
 // Opens the small windows of the table, modally, and hands their results back to the game.
 
-#include <QString>
 #include <QWidget>
 
 #include "core/armazem.h"
 #include "core/jogo.h"
 #include "shell/audio/som.h"
+#include "update/versao.h"
 
 namespace corvina {
 
 class JanelasQt {
   public:
-    JanelasQt(Jogo& jogo, Armazem& armazem, Som* som, QString versao)
-        : jogo_(jogo), armazem_(armazem), som_(som), versao_(std::move(versao)) {}
+    JanelasQt(Jogo& jogo, Armazem& armazem, Som* som, Versao versao)
+        : jogo_(jogo), armazem_(armazem), som_(som), versao_(versao) {}
     void dono(QWidget* w) { dono_ = w; }
     // Returns when the window has closed.
     void abre(Janela janela, const Placar& placar);
@@ -22,7 +22,7 @@ class JanelasQt {
     Jogo& jogo_;
     Armazem& armazem_;
     Som* som_;
-    QString versao_;
+    Versao versao_;
     QWidget* dono_ = nullptr;
 };
 

@@ -19,6 +19,7 @@
 #include "shell/splash.h"
 #include "shell/vista_qt.h"
 #include "table/comandos.h"
+#include "update/versao.h"
 
 namespace {
 
@@ -35,7 +36,7 @@ struct Programa {
     corvina::JanelasQt janelas;
     corvina::JanelaMesa janela{jogo, vista, imagens};
 
-    explicit Programa(const QString& versao) : janelas(jogo, settings, &som, versao) {
+    explicit Programa(corvina::Versao versao) : janelas(jogo, settings, &som, versao) {
         vista.liga(jogo);
         vista.som(&som);
         vista.janelas(&janelas);
@@ -60,11 +61,10 @@ int main(int argc, char** argv) {
     QApplication::setOrganizationName("Lunaris");
     QApplication::setApplicationName("Corvina");
     QApplication::setApplicationVersion(CORVINA_VERSAO);
-    const QString versao =
-        textoDaVersao(CORVINA_VERSAO_MAJOR, CORVINA_VERSAO_MINOR, CORVINA_VERSAO_REVISAO);
+    const Versao versao{CORVINA_VERSAO_MAJOR, CORVINA_VERSAO_MINOR, CORVINA_VERSAO_REVISAO};
 
     const QPixmap figura = figuraDoSplash();
-    Splash splash(figura, versao);
+    Splash splash(figura, QString::fromStdString(versaoParaUsuario(versao)));
     CentraJanela(splash);
     splash.show();
     QElapsedTimer relogio;

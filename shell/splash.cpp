@@ -23,12 +23,6 @@ void Splash::paintEvent(QPaintEvent*) {
     p.drawText(QRect(434, 18, 39, 17), Qt::AlignRight | Qt::AlignVCenter, versao_); // Label4
 }
 
-QString textoDaVersao(int major, int minor, int revisao) {
-    QString texto = QString("%1.%2").arg(major).arg(minor);
-    if (revisao != 0) texto += QString(".%1").arg(revisao);
-    return texto;
-}
-
 void CentraJanela(QWidget& janela) {
     const QScreen* tela = janela.screen() ? janela.screen() : QGuiApplication::primaryScreen();
     if (!tela) return;

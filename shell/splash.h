@@ -17,9 +17,6 @@ class Splash : public QWidget {
     QString versao_;
 };
 
-// Major.Minor, and .Revision when it isn't 0.
-QString textoDaVersao(int major, int minor, int revisao);
-
 // Centred on the screen it stands on.
 void CentraJanela(QWidget& janela);
 

@@ -14,6 +14,8 @@ pacotes=(
   fonts-dejavu-core
   libfluidsynth-dev
   libasound2-dev
+  libsodium-dev
+  openssl
   timgm6mb-soundfont
 )
 

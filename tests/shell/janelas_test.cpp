@@ -13,6 +13,7 @@
 #include <QTimer>
 #include <memory>
 
+#include "apoio/janela_modal.h"
 #include "apoio/som_gravado.h"
 #include "core/ajustes.h"
 #include "core/novojogo.h"
@@ -31,31 +32,7 @@
 namespace corvina {
 namespace {
 
-// The windows a test waits for; each must have opened by the end of the test.
-std::vector<std::pair<std::string, std::shared_ptr<bool>>> esperadas;
-
-// Runs `acao` on the window named `nome` once it has stood open as the modal window for a few
-// turns of its loop (so that its own first activation has run), from inside that loop.
-void quandoAbrir(const char* nome, std::function<void(QWidget*)> acao) {
-    auto feito = std::make_shared<bool>(false);
-    esperadas.emplace_back(nome, feito);
-    auto* relogio = new QTimer;
-    relogio->setInterval(5);
-    auto vezes = std::make_shared<int>(0);
-    QObject::connect(relogio, &QTimer::timeout, [=] {
-        QWidget* w = QApplication::activeModalWidget();
-        if (!w || w->objectName() != nome || !w->isVisible()) {
-            *vezes = 0;
-            return;
-        }
-        if (++*vezes < 4) return;
-        relogio->stop();
-        relogio->deleteLater();
-        *feito = true;
-        acao(w);
-    });
-    relogio->start();
-}
+using teste::quandoAbrir;
 
 template <class T = QWidget> T* parte(QWidget* janela, const char* nome) {
     T* p = janela->findChild<T*>(nome);
@@ -84,7 +61,7 @@ struct Mesa : testing::Test {
     Som som{sons, ondas, midi};
     AcasoSemente acaso{7};
     Jogo jogo{vista, acaso};
-    JanelasQt janelas{jogo, settings, &som, "0.1"};
+    JanelasQt janelas{jogo, settings, &som, Versao{0, 1, 0}};
     JanelaMesa janela{jogo, vista, imagens};
 
     Mesa() {
@@ -94,10 +71,11 @@ struct Mesa : testing::Test {
         vista.modoDeTeste(true);
         janelas.dono(&janela);
         settings.grava(chaveBase(), ajuste::kPrimeiraVez, "1");
-        esperadas.clear();
+        teste::janelasEsperadas().clear();
     }
     ~Mesa() override {
-        for (const auto& [nome, feito] : esperadas) EXPECT_TRUE(*feito) << nome << " never opened";
+        for (const auto& [nome, feito] : teste::janelasEsperadas())
+            EXPECT_TRUE(*feito) << nome << " never opened";
     }
     void lista(std::initializer_list<const char*> nomes) {
         int n = 1;

@@ -3,6 +3,12 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <unistd.h>
+
+#include "update/assinatura.h"
 #include "update/barra_de_progresso.h"
 #include "update/campos.h"
 #include "update/controle_download.h"
@@ -127,6 +133,35 @@ TEST(BarraDeProgresso, TheBlocksFollowThePercentageWithTheDivisorOf98) {
     }
     EXPECT_EQ(tinta({49, 106, 197}), (Cor{170, 193, 231}));
     EXPECT_EQ(tinta({255, 255, 255}), (Cor{255, 255, 255}));
+}
+
+// The release script signs with OpenSSL; the game checks with libsodium: one signature.
+TEST(AssinaPacote, WhatTheReleaseScriptSignsTheGameAccepts) {
+    const std::string pasta = testing::TempDir() + "corvina-assina-" + std::to_string(::getpid());
+    const std::string script = std::string("bash ") + CORVINA_RAIZ + "/tools/assina_pacote.sh";
+    const auto roda = [](const std::string& comando) {
+        std::string saida;
+        FILE* p = ::popen(comando.c_str(), "r");
+        for (char buf[512]; p && std::fgets(buf, sizeof buf, p);) saida += buf;
+        const int status = p ? ::pclose(p) : -1;
+        EXPECT_EQ(status, 0) << comando;
+        return saida;
+    };
+    const std::string publica = roda(script + " chave " + pasta + " 2>/dev/null");
+    ASSERT_EQ(publica.size(), 65u) << publica; // 64 hex digits and the line end
+    const std::string chave = publica.substr(0, 64);
+    const std::string pacote = pasta + "/corvina_0.2.0_amd64.deb";
+    { std::ofstream(pacote, std::ios::binary) << std::string(5000, 'd') << "fim"; }
+    const std::string linha = roda(script + " assina " + pasta + "/corvina-update.pem " + pacote +
+                                   " 0.2.0 https://a/c.deb");
+    EXPECT_EQ(campo(linha, "!*!", 2), "0.2.0");
+    EXPECT_EQ(campo(linha, "!*!", 3), "https://a/c.deb");
+    const std::string assinatura = campo(linha, "!*!", 4);
+    EXPECT_TRUE(assinaturaConfere(pacote, assinatura, chave));
+    { std::ofstream(pacote, std::ios::binary | std::ios::app) << "!"; }
+    EXPECT_FALSE(assinaturaConfere(pacote, assinatura, chave)) << "one byte more";
+    EXPECT_FALSE(assinaturaConfere(pasta + "/nao-ha.deb", assinatura, chave));
+    std::filesystem::remove_all(pasta);
 }
 
 } // namespace

@@ -1,0 +1,179 @@
+// The whole update against an HTTPS server on the loopback address: the check of the About
+// window and its question, and FrmUp's download, signature check and hand-over. Nothing is
+// installed and the run doesn't end: those two steps are recorded instead.
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <sodium.h>
+
+#include "apoio/janela_modal.h"
+#include "servidor_https.h"
+#include "update/qt/frm_sobre.h"
+#include "update/qt/frm_up.h"
+
+namespace corvina {
+namespace {
+
+using teste::quandoAbrir;
+using teste::Resposta;
+
+// A throwaway key, made for this test only.
+struct Chave {
+    unsigned char publica[crypto_sign_PUBLICKEYBYTES], secreta[crypto_sign_SECRETKEYBYTES];
+    Chave() {
+        if (sodium_init() < 0) std::abort();
+        crypto_sign_keypair(publica, secreta);
+    }
+    QString publicaHex() const {
+        char hex[2 * sizeof publica + 1];
+        sodium_bin2hex(hex, sizeof hex, publica, sizeof publica);
+        return hex;
+    }
+    QString assina(const QByteArray& dados) const {
+        unsigned char sig[crypto_sign_BYTES];
+        crypto_sign_detached(sig, nullptr, reinterpret_cast<const unsigned char*>(dados.data()),
+                             static_cast<unsigned long long>(dados.size()), secreta);
+        char b64[sodium_base64_ENCODED_LEN(crypto_sign_BYTES, sodium_base64_VARIANT_ORIGINAL)];
+        sodium_bin2base64(b64, sizeof b64, sig, sizeof sig, sodium_base64_VARIANT_ORIGINAL);
+        return b64;
+    }
+};
+
+// The text of the message box that opens, and its answer.
+void responde(QString* texto, QMessageBox::StandardButton botao = QMessageBox::Ok) {
+    quandoAbrir("caixaMensagem", [=](QWidget* w) {
+        auto* caixa = static_cast<QMessageBox*>(w);
+        *texto = caixa->text();
+        QTest::mouseClick(caixa->button(botao), Qt::LeftButton);
+    });
+}
+
+struct Atualizacao : testing::Test {
+    teste::ServidorHttps servidor;
+    QTemporaryDir casa;
+    Chave chave;
+    QByteArray pacote = QByteArray("!<arch>\ndebian-binary   ") + QByteArray(50 * 1024, 'd');
+    Atualizacao() {
+        servidor.confiaNoCertificado();
+        qputenv("HOME", casa.path().toUtf8());
+        qputenv("XDG_DOCUMENTS_DIR", casa.path().toUtf8());
+        teste::janelasEsperadas().clear();
+        servidor.caminhos["/c.deb"] = Resposta::texto(pacote);
+    }
+    ~Atualizacao() override {
+        for (const auto& [nome, feito] : teste::janelasEsperadas())
+            EXPECT_TRUE(*feito) << nome << " never opened";
+    }
+    QStringList instaladores; // what would have been started
+    int fins = 0;
+    // Runs FrmUp on a link and a signature; the text of the message it ended with.
+    QString frmUp(const QString& caminho, const QString& assinatura, QString* destino = nullptr,
+                  QString chavePublica = {}) {
+        FrmUp up(nullptr, servidor.url(caminho), assinatura);
+        up.paciencia = 2;
+        up.chavePublica = chavePublica.isNull() ? chave.publicaHex() : chavePublica;
+        up.iniciaInstalador = [this](const QString& programa, const QStringList& argumentos) {
+            instaladores << programa + " " + argumentos.join(' ');
+            return true;
+        };
+        up.encerra = [this] { ++fins; };
+        QString texto;
+        responde(&texto);
+        up.exec();
+        if (destino) *destino = up.destino();
+        return texto;
+    }
+};
+
+TEST_F(Atualizacao, ASignedPackageIsHandedToTheInstallerAndTheRunEnds) {
+    QString destino;
+    EXPECT_EQ(frmUp("/c.deb", chave.assina(pacote), &destino),
+              "O Corvina será fechado para que a atualização seja feita");
+    ASSERT_EQ(instaladores.size(), 1);
+    EXPECT_EQ(instaladores[0], "pkexec apt-get install -y " + destino);
+    EXPECT_EQ(fins, 1);
+    EXPECT_TRUE(destino.startsWith(casa.path() + "/Corvina-")) << destino.toStdString();
+    QFile f(destino);
+    ASSERT_TRUE(f.open(QIODevice::ReadOnly));
+    EXPECT_EQ(f.readAll(), pacote);
+}
+
+TEST_F(Atualizacao, NothingUnsignedOrBrokenIsEverStarted) {
+    QByteArray outro = pacote;
+    outro[100] = 'X';
+    servidor.caminhos["/cortado.deb"] = Resposta::texto(pacote.left(1000), 200);
+    const struct {
+        const char* caso;
+        const char* caminho;
+        QString assinatura, chavePublica;
+    } casos[] = {
+        {"signed by someone else", "/c.deb", Chave().assina(pacote), {}},
+        {"a file that isn't the one signed", "/c.deb", chave.assina(outro), {}},
+        {"no signature", "/c.deb", "", {}},
+        {"no key built in", "/c.deb", chave.assina(pacote), ""},
+        {"a truncated download", "/cortado.deb", chave.assina(pacote), {}},
+        {"a missing file", "/nada.deb", chave.assina(pacote), {}},
+    };
+    for (const auto& c : casos) {
+        QString destino;
+        EXPECT_EQ(frmUp(c.caminho, c.assinatura, &destino, c.chavePublica),
+                  "Não foi possivel fazer o download da atualização")
+            << c.caso;
+        EXPECT_FALSE(QFile::exists(destino)) << c.caso;
+    }
+    EXPECT_TRUE(instaladores.isEmpty());
+    EXPECT_EQ(fins, 0) << "the game goes on";
+}
+
+TEST_F(Atualizacao, TheAboutWindowChecksAsksAndOpensTheDownload) {
+    const QString oferta =
+        "!*!Corvina!*!0.2.0!*!" + servidor.url("/c.deb") + "!*!" + chave.assina(pacote) + "!*!";
+    const struct {
+        const char* caso;
+        Resposta resposta;
+        QMessageBox::StandardButton botao;
+        QString mensagem;
+        bool baixa;
+    } casos[] = {
+        {"newer, accepted", Resposta::texto(("aviso\r\n" + oferta).toUtf8()), QMessageBox::Yes,
+         "Você está utilizando a versão 0.1\n\nDeseja atualizar para a versão 0.2.0 agora?", true},
+        {"newer, refused", Resposta::texto(oferta.toUtf8()), QMessageBox::No,
+         "Você está utilizando a versão 0.1\n\nDeseja atualizar para a versão 0.2.0 agora?", false},
+        {"the same version", Resposta::texto("!*!Corvina!*!0.1.0!*!u!*!"), QMessageBox::Ok,
+         "Você já está utilizando a versão mais recente do Corvina", false},
+        {"garbage", Resposta::so(Resposta::Tipo::Lixo), QMessageBox::Ok,
+         "Não foi possível conectar ao servidor", false},
+        {"a silent server", Resposta::so(Resposta::Tipo::Silencio), QMessageBox::Ok,
+         "Não foi possível conectar ao servidor", false},
+    };
+    for (const auto& c : casos) {
+        servidor.caminhos["/update.php?prog=Corvina"] = c.resposta;
+        FrmSobre sobre(nullptr, Versao{0, 1, 0});
+        sobre.servidor = servidor.url("/");
+        sobre.paciencia = 0.5;
+        QStringList abertos;
+        sobre.abreFrmUp = [&](const QString& link, const QString& assinatura) {
+            abertos << link << assinatura;
+        };
+        EXPECT_EQ(sobre.findChild<QLabel*>("Label1")->text(), "Lunaris - Corvina  0.1");
+        QString texto;
+        responde(&texto, c.botao);
+        sobre.atualizar();
+        EXPECT_EQ(texto, c.mensagem) << c.caso;
+        EXPECT_EQ(!abertos.isEmpty(), c.baixa) << c.caso;
+        if (c.baixa) {
+            EXPECT_EQ(abertos, QStringList({servidor.url("/c.deb"), chave.assina(pacote)}));
+        }
+        EXPECT_TRUE(sobre.findChild<QPushButton*>("Command1")->isEnabled()) << c.caso;
+    }
+}
+
+} // namespace
+} // namespace corvina

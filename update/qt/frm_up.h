@@ -1,0 +1,48 @@
+#pragma once
+// FrmUp: downloads the newer installer with its bar, checks its signature, hands it to the
+// system's package installer and ends the program.
+
+#include <QDialog>
+#include <functional>
+
+#include "update/enderecos.h"
+#include "update/qt/dl.h"
+
+class QLabel;
+
+namespace corvina {
+
+class ProgressBarXP;
+
+class FrmUp : public QDialog {
+  public:
+    // `link` and `assinatura` are the installer's URL and its signature in the server's answer.
+    FrmUp(QWidget* dono, QString link, QString assinatura);
+
+    // What the last steps do, replaceable in tests: start the installer (program and its
+    // arguments; false when it can't start), and end the run with exit code 1.
+    std::function<bool(const QString&, const QStringList&)> iniciaInstalador;
+    std::function<void()> encerra;
+    // The watchdog's patience and the key the signature must verify against.
+    double paciencia = 30;
+    QString chavePublica{enderecos::kChavePublica};
+
+    // Where the installer was put, once the download has started.
+    const QString& destino() const { return destino_; }
+
+  protected:
+    void showEvent(QShowEvent* e) override;
+
+  private:
+    void baixa();
+    void avisa(const QString& texto);
+    QString link_, assinatura_, destino_;
+    DL dl1_;
+    ProgressBarXP* barra_;
+    bool ativada_ = false;
+};
+
+// A fresh file for the installer in the user's documents folder, never one an earlier try left.
+QString destinoDoInstalador();
+
+} // namespace corvina
