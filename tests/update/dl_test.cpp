@@ -9,6 +9,7 @@
 
 #include "servidor_https.h"
 #include "update/qt/dl.h"
+#include "update/qt/progress_bar_xp.h"
 
 namespace corvina {
 namespace {
@@ -124,10 +125,46 @@ TEST_F(Download, FailuresLeaveNoFileAndAnExistingOneAlone) {
     EXPECT_EQ(sobras, QStringList({"ok.deb", "s.deb"})) << "no temporary file is left behind";
 }
 
+TEST_F(Download, ADeadServerOrARedirectLoopFailsAndTheGameGoesOn) {
+    servidor.caminhos["/a"] = Resposta::so(Resposta::Tipo::Redireciona, servidor.url("/b"));
+    servidor.caminhos["/b"] = Resposta::so(Resposta::Tipo::Redireciona, servidor.url("/a"));
+    DL dl;
+    EXPECT_EQ(dl.Download(servidor.url("/a"), destino("a.deb"), {}, "Id", 2), Situacao::Falhou);
+    EXPECT_FALSE(QFile::exists(destino("a.deb")));
+    DL morto;
+    EXPECT_EQ(morto.GetConteudo("https://127.0.0.1:1/update.php", "Id", 2), "")
+        << "nobody listens on port 1";
+    EXPECT_FALSE(morto.abortado()) << "refused at once, not given up";
+}
+
 TEST_F(Download, AnEndlessAnswerIsCutShort) {
     servidor.caminhos["/sem-fim"] = Resposta::semFimDe(64 * 1024 * 1024);
     DL dl;
     EXPECT_EQ(dl.GetConteudo(servidor.url("/sem-fim"), "Id", 5), "");
+}
+
+// The bar's blocks, read off a rendered picture: the first block from the start, the last
+// whole block at 100, and a value above the maximum drawn full.
+TEST(ProgressBarXP, TheBlocksOnThePictureFollowTheValue) {
+    ProgressBarXP barra;
+    barra.setColor(QColor(49, 106, 197));
+    barra.resize(289, 14);
+    const auto azulAte = [&](long valor) {
+        barra.setValue(valor);
+        const QImage img = barra.grab().toImage();
+        int ultimo = -1;
+        for (int x = 0; x < img.width(); ++x)
+            if (img.pixelColor(x, 8) == QColor(49, 106, 197)) ultimo = x; // row 8: full colour
+        return ultimo;
+    };
+    EXPECT_EQ(azulAte(0), 9) << "one block of six from column 4";
+    EXPECT_EQ(azulAte(50), 145);
+    EXPECT_EQ(azulAte(100), 281) << "the last whole block";
+    EXPECT_EQ(azulAte(250), 281);
+    const QImage img = barra.grab().toImage();
+    EXPECT_EQ(img.pixelColor(10, 10), QColor(Qt::white)) << "the gap after the first block";
+    EXPECT_EQ(img.pixelColor(0, 7), QColor(104, 104, 104)) << "the frame";
+    EXPECT_EQ(img.pixelColor(0, 0), QColor(Qt::white)) << "a rounded corner";
 }
 
 } // namespace
