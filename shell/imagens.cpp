@@ -23,12 +23,14 @@ const QSize kBotoes[] = {{126, 30}, {121, 30}, {121, 30}, {122, 30}, {118, 30}, 
 
 QString pastaDeImagens() {
     const QString programa = QCoreApplication::applicationDirPath();
-    for (const QString& candidata :
-         {programa + "/assets", programa + "/../assets", programa + "/../../assets",
-          QStringLiteral(CORVINA_PASTA_ASSETS)}) {
+    QStringList candidatas{programa + "/assets", programa + "/" + CORVINA_DADOS_INSTALADOS};
+    // The sources serve only a program of the build tree: an installed game that lost a file
+    // must say so, not borrow it.
+    if (QDir(programa).absolutePath().startsWith(QDir(CORVINA_PASTA_DO_BUILD).absolutePath()))
+        candidatas << QStringLiteral(CORVINA_PASTA_ASSETS);
+    for (const QString& candidata : candidatas)
         if (QFileInfo::exists(candidata + "/mesa.png")) return QDir(candidata).absolutePath();
-    }
-    return programa + "/assets";
+    return QDir(programa + "/" + CORVINA_DADOS_INSTALADOS).absolutePath();
 }
 
 QString pastaDosSons() {

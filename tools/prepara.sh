@@ -16,6 +16,9 @@ pacotes=(
   libasound2-dev
   libsodium-dev
   openssl
+  file
+  desktop-file-utils
+  appstream
   timgm6mb-soundfont
 )
 

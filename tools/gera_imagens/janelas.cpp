@@ -4,6 +4,7 @@
 #include <QLinearGradient>
 #include <QPainter>
 #include <QPainterPath>
+#include <algorithm>
 
 namespace {
 
@@ -175,5 +176,30 @@ QImage semCantos(const QImage& carta) {
         for (int x = 0; x < img.width(); ++x)
             if (img.pixelColor(x, y) == QColor(21, 130, 64))
                 img.setPixelColor(x, y, Qt::transparent);
+    return img;
+}
+
+QImage icone(int lado, const QImage& verso, const QImage& as) {
+    QImage img(lado, lado, QImage::Format_ARGB32);
+    img.fill(Qt::transparent);
+    QPainter p(&img);
+    p.setRenderHint(QPainter::Antialiasing, true);
+    p.setRenderHint(QPainter::SmoothPixmapTransform, true);
+    const double s = lado / 256.0;
+    QLinearGradient verde(0, 0, 0, lado);
+    verde.setColorAt(0, kFeltro1);
+    verde.setColorAt(1, kFeltro2);
+    p.setPen(QPen(kOuro, std::max(1.0, 6 * s)));
+    p.setBrush(verde);
+    p.drawRoundedRect(QRectF(8 * s, 8 * s, 240 * s, 240 * s), 40 * s, 40 * s);
+    const auto carta = [&](const QImage& c, double x, double graus) {
+        p.save();
+        p.translate(x * s, 140 * s);
+        p.rotate(graus);
+        p.drawImage(QRectF(-60 * s, -81 * s, 120 * s, 162 * s), semCantos(c));
+        p.restore();
+    };
+    carta(verso, 100, -14);
+    carta(as, 150, 10);
     return img;
 }

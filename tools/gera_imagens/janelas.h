@@ -15,5 +15,9 @@ QImage janelaSimNao();                                   // FrmSimNao, 400 by 13
 QImage janelaPlacar();                                   // FrmPlacar, 345 by 176
 QImage janelaSobre(const QImage& verso);                 // FrmSobre's client area, 430 by 189
 
+// The program's icon at a size of `lado` pixels: two cards fanned on the felt, the front one an
+// ace of hearts.
+QImage icone(int lado, const QImage& verso, const QImage& as);
+
 // The corners of key colour made clear, to lay a card over something else.
 QImage semCantos(const QImage& carta);

@@ -477,5 +477,10 @@ int main(int argc, char** argv) {
     };
     for (const auto& j : janelas)
         ok &= grava(j.figura, pasta.filePath(QString("janelas/%1.png").arg(j.nome)));
+    // The icon at the sizes the desktop's icon theme asks for; installed apart from the data.
+    QDir().mkpath(pasta.filePath("icones"));
+    for (const int lado : {16, 24, 32, 48, 64, 128, 256})
+        ok &= grava(icone(lado, versos[3], face(1, 1)),
+                    pasta.filePath(QString("icones/%1.png").arg(lado)));
     return ok ? 0 : 1;
 }

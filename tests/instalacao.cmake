@@ -1,0 +1,56 @@
+cmake_minimum_required(VERSION 3.25)
+# Builds the Debian package, unpacks it into a scratch root outside the build tree, validates
+# its desktop entry and metadata, and starts the installed game offscreen: a data file left out
+# of the package fails here.
+# Usage: cmake -DBUILD=<build dir> -P instalacao.cmake
+string(RANDOM LENGTH 8 sorte)
+set(raiz "/tmp/corvina-instalacao-${sorte}")
+file(MAKE_DIRECTORY ${raiz})
+
+execute_process(COMMAND cpack --config ${BUILD}/CPackConfig.cmake -B ${raiz}/pacote
+                RESULT_VARIABLE status OUTPUT_VARIABLE saida ERROR_VARIABLE saida)
+file(GLOB pacote ${raiz}/pacote/corvina_*.deb)
+if(NOT status EQUAL 0 OR NOT pacote)
+  message(FATAL_ERROR "cpack: ${status}\n${saida}")
+endif()
+file(SIZE ${pacote} tamanho)
+message(STATUS "package: ${pacote}, ${tamanho} bytes")
+execute_process(COMMAND dpkg-deb -x ${pacote} ${raiz}/raiz RESULT_VARIABLE status)
+if(NOT status EQUAL 0)
+  message(FATAL_ERROR "dpkg-deb -x: ${status}")
+endif()
+
+set(usr ${raiz}/raiz/usr)
+foreach(arquivo bin/corvina bin/corvinahlp share/corvina/mesa.png share/corvina/sons/click2.wav
+        share/corvina/sons/passport.mid share/corvina/janelas/frmnome.png
+        share/icons/hicolor/256x256/apps/br.com.lunaris.Corvina.png)
+  if(NOT EXISTS ${usr}/${arquivo})
+    message(FATAL_ERROR "the package lacks ${arquivo}")
+  endif()
+endforeach()
+execute_process(COMMAND desktop-file-validate ${usr}/share/applications/br.com.lunaris.Corvina.desktop
+                RESULT_VARIABLE status OUTPUT_VARIABLE saida ERROR_VARIABLE saida)
+if(NOT status EQUAL 0)
+  message(FATAL_ERROR "desktop-file-validate:\n${saida}")
+endif()
+execute_process(COMMAND appstreamcli validate --no-net
+                        ${usr}/share/metainfo/br.com.lunaris.Corvina.metainfo.xml
+                RESULT_VARIABLE status OUTPUT_VARIABLE saida ERROR_VARIABLE saida)
+if(NOT status EQUAL 0)
+  message(FATAL_ERROR "appstreamcli validate:\n${saida}")
+endif()
+
+# The installed game, started as on a first day: it must still be running, having found all
+# its pictures, when the time is up.
+file(MAKE_DIRECTORY ${raiz}/casa)
+execute_process(COMMAND ${CMAKE_COMMAND} -E env QT_QPA_PLATFORM=offscreen HOME=${raiz}/casa
+                        XDG_CONFIG_HOME=${raiz}/casa/.config XDG_DATA_HOME=${raiz}/casa/.local
+                        ${usr}/bin/corvina
+                TIMEOUT 4 RESULT_VARIABLE status OUTPUT_VARIABLE saida ERROR_VARIABLE saida)
+file(REMOVE_RECURSE ${raiz})
+if(NOT status MATCHES "timeout")
+  message(FATAL_ERROR "the installed game ended by itself (${status}):\n${saida}")
+endif()
+if(saida MATCHES "could not read")
+  message(FATAL_ERROR "the installed game misses files:\n${saida}")
+endif()
