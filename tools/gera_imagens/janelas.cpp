@@ -157,8 +157,9 @@ QImage janelaSobre(const QImage& verso) {
     QImage img = fundo({430, 189});
     QPainter p(&img);
     p.setRenderHint(QPainter::Antialiasing, true);
-    p.translate(30, 40);
+    p.translate(16, 46);
     p.rotate(-8);
+    p.scale(0.82, 0.82);
     p.drawImage(0, 0, semCantos(verso));
     p.resetTransform();
     titulo(p, QRect(104, 40, 300, 40), QStringLiteral("Corvina"), 28);

@@ -41,10 +41,17 @@ FrmSobre::FrmSobre(QWidget* dono, Versao versao)
         QDesktopServices::openUrl(QUrl(QString(enderecos::kSite) + enderecos::kFaleConosco));
     });
     label7->setObjectName("Label7");
-    label7->setGeometry(289, 135, 79 + 20, 17);
+    // The link ends where it ends on the window's design; its text may reach further left.
+    label7->setGeometry(248, 135, 120, 17);
+    label7->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     auto* label10 = new Comando("Atualizar", this, [this] { atualizar(); });
     label10->setObjectName("Label10");
-    label10->setGeometry(376, 135, 46 + 10, 17);
+    label10->setGeometry(376, 135, 50, 17);
+    for (QLabel* link : {label7, label10}) {
+        QFont f = link->font();
+        f.setPixelSize(11);
+        link->setFont(f);
+    }
     command1_ = new QPushButton("OK", this);
     command1_->setObjectName("Command1");
     command1_->setGeometry(347, 157, 73, 24);
