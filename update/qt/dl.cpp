@@ -38,6 +38,7 @@ void DL::inicia(const QString& url, const QString& sID, const QString& destino, 
     const QUrl endereco(url);
     // Code is fetched over https only: anything else fails as an unreachable server does.
     if (endereco.scheme() != "https" || endereco.host().isEmpty()) {
+        arquivos_.erase(sID);
         controle_.falhou();
         return;
     }
