@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <QTimer>
 
 #include "servidor_https.h"
 #include "update/qt/dl.h"
@@ -135,6 +136,23 @@ TEST_F(Download, ADeadServerOrARedirectLoopFailsAndTheGameGoesOn) {
     EXPECT_EQ(morto.GetConteudo("https://127.0.0.1:1/update.php", "Id", 2), "")
         << "nobody listens on port 1";
     EXPECT_FALSE(morto.abortado()) << "refused at once, not given up";
+}
+
+TEST_F(Download, AWrongLengthFailsAndACancelStopsTheRead) {
+    Resposta mentirosa = Resposta::texto(QByteArray(100, 'm'));
+    mentirosa.tamanhoDito = 5000; // the connection closes long before
+    servidor.caminhos["/curto.deb"] = mentirosa;
+    servidor.caminhos["/lento.deb"] = Resposta::gotejando(QByteArray(64 * 1024, 'l'), 512, 50);
+    DL dl;
+    EXPECT_EQ(dl.Download(servidor.url("/curto.deb"), destino("curto.deb"), {}, "Id", 2),
+              Situacao::Falhou);
+    EXPECT_FALSE(QFile::exists(destino("curto.deb")));
+
+    DL cancelado;
+    QTimer::singleShot(200, &cancelado, [&] { cancelado.CancelDownload(); });
+    EXPECT_EQ(cancelado.Download(servidor.url("/lento.deb"), destino("lento.deb"), {}, "Id", 2),
+              Situacao::Cancelado);
+    EXPECT_FALSE(QFile::exists(destino("lento.deb")));
 }
 
 TEST_F(Download, AnEndlessAnswerIsCutShort) {

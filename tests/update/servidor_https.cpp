@@ -71,7 +71,9 @@ void ServidorHttps::atende(QSslSocket* s, const QByteArray& pedido) {
     QByteArray cabecalho =
         "HTTP/1.1 " + QByteArray::number(r.status) + " X\r\nConnection: close\r\n";
     if (r.semFim == 0 && r.comTamanho)
-        cabecalho += "Content-Length: " + QByteArray::number(r.corpo.size()) + "\r\n";
+        cabecalho += "Content-Length: " +
+                     QByteArray::number(r.tamanhoDito >= 0 ? r.tamanhoDito : r.corpo.size()) +
+                     "\r\n";
     s->write(cabecalho + "\r\n");
     if (r.semFim > 0) return goteja(s, QByteArray(r.semFim, 'x'), 16 * 1024, 1);
     if (r.gotejaMs > 0) return goteja(s, r.corpo, r.pedaco, r.gotejaMs);

@@ -13,11 +13,12 @@ struct Resposta {
     enum class Tipo { Normal, Redireciona, Silencio, Lixo } tipo = Tipo::Normal;
     int status = 200;
     QByteArray corpo;
-    bool comTamanho = true; // Content-Length told
-    int gotejaMs = 0;       // a pause between pieces of the body, when not 0
-    int pedaco = 1024;      // bytes a piece
-    QString destino;        // where a redirect points
-    qint64 semFim = 0;      // bytes of an endless body (sent in pieces until the client stops)
+    bool comTamanho = true;  // Content-Length told
+    int gotejaMs = 0;        // a pause between pieces of the body, when not 0
+    int pedaco = 1024;       // bytes a piece
+    QString destino;         // where a redirect points
+    qint64 semFim = 0;       // bytes of an endless body (sent in pieces until the client stops)
+    qint64 tamanhoDito = -1; // a Content-Length that lies, when not -1
 
     static Resposta texto(QByteArray corpo, int status = 200, bool comTamanho = true) {
         Resposta r;
