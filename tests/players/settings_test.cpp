@@ -9,7 +9,6 @@
 
 #include "core/ajustes.h"
 #include "players/highcor.h"
-#include "players/lugar_do_ajuste.h"
 #include "players/qt/settings.h"
 
 namespace corvina {
@@ -67,17 +66,6 @@ TEST_F(SettingsTest, OddNamesAreStoredAndReadBackAsThemselves) {
     EXPECT_EQ(s.le(chaveJogador("ωmega"), "Vitorias", "0"), "10");
     EXPECT_EQ(s.le(chaveJogador("ÿves"), "Vitorias", "0"), "11");
     EXPECT_EQ(s.le(chaveBase(), "Vitorias", "0"), "0");
-}
-
-TEST(LugarDoAjuste, NamesNeverBecomePathsOrSections) {
-    for (const char* nome : {"a/b", "..\\x", "[General]", "x=y", "a b", "é"}) {
-        const LugarDoAjuste l = lugarDoAjuste(chaveJogador(nome), "Saldo");
-        EXPECT_EQ(l.grupo.find('/', 10), std::string::npos) << nome;
-        EXPECT_EQ(l.grupo.find_first_of("\\[]= "), std::string::npos) << nome;
-    }
-    EXPECT_EQ(lugarDoAjuste(chaveBase(), "UltimoJogador").grupo, "corvina");
-    EXPECT_NE(lugarDoAjuste(chaveJogador("a\\b"), "x").grupo,
-              lugarDoAjuste(chaveJogador("a"), "b\\x").grupo);
 }
 
 TEST(Highcor, MadeOnceThenReadAndLeftAlone) {

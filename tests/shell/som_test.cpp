@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
-#include <QElapsedTimer>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -14,7 +13,6 @@
 #include "shell/audio/nome_do_som.h"
 #include "shell/audio/onda_pcm.h"
 #include "shell/imagens.h"
-#include "shell/ondas_qt.h"
 
 namespace corvina {
 namespace {
@@ -72,17 +70,6 @@ TEST(Som, TheMusicIsClosedOpenedAndPlayedInThatOrder) {
               (std::vector<std::string>{"stop musica", "Close musica", "close musica",
                                         "open /jogo/sons\\passport.mid type sequencer alias musica",
                                         "play musica"}));
-}
-
-TEST(Som, AMissingWaveIsSilence) {
-    PastaDeSons p;
-    OndasGravadas ondas;
-    MidiGravado midi;
-    Som som(p.pasta.string(), ondas, midi);
-    som.tocaSom("\\finalc.wav", true);
-    som.tocaSom("\\Cart1.wav", false);
-    ASSERT_EQ(ondas.tocadas.size(), 1u);
-    EXPECT_EQ(fs::path(ondas.tocadas[0]).filename(), "cart1.wav");
 }
 
 struct Musica : testing::Test {
@@ -148,16 +135,6 @@ TEST(OndaPcm, OnlyPlainPcmWavesAreSounds) {
          {bytesDe(sons + "/passport.mid"), std::string(), float32, doisCanais24, semDados,
           std::string("RIFF\xff\xff\xff\xffWAVE")})
         EXPECT_FALSE(leOndaPcm(ruim));
-}
-
-TEST(OndasQt, WaitingOnABrokenOrMissingFileReturns) {
-    PastaDeSons p; // files of one byte: not waves at all
-    OndasQt ondas;
-    ondas.toca((p.pasta / "cart1.wav").string(), true);
-    ondas.toca((p.pasta / "nada.wav").string(), true);
-    // A real sound, waited for, with no audio device: the call returns.
-    ondas.toca(pastaDosSons().toStdString() + "/click2.wav", true);
-    SUCCEED();
 }
 
 } // namespace
