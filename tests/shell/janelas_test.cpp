@@ -276,7 +276,7 @@ TEST(FrmPlacar, TheNamesAndPointsBlinkOnlyAtTheEndOfAMatch) {
         QLabel* label5 = placar.findChild<QLabel*>("Label5");
         ASSERT_NE(label5, nullptr);
         EXPECT_EQ(label5->text(), "4");
-        QTest::qWait(FrmPlacar::kPiscaMs + 100);
+        QTest::qWait(FrmPlacar::kPiscaMs + FrmPlacar::kPiscaMs / 2); // halfway between two ticks
         EXPECT_TRUE(label5->isVisible()) << "the first tick shows them";
         QTest::qWait(FrmPlacar::kPiscaMs);
         EXPECT_EQ(label5->isVisible(), !pisca) << "the second hides them";
