@@ -107,14 +107,13 @@ FrmNome::FrmNome(QWidget* dono, Module1& modulo, Armazem& armazem, Som* som, boo
 
 void FrmNome::mostra() {
     mostrando_ = true;
-    const auto& lista = escolha_.lista();
-    if (combo1_->count() != static_cast<int>(lista.size()) || [&] {
-            for (int i = 0; i < combo1_->count(); ++i)
-                if (combo1_->itemText(i).toStdString() != lista[i]) return true;
-            return false;
-        }()) {
+    QStringList lista;
+    for (const std::string& nome : escolha_.lista()) lista << QString::fromStdString(nome);
+    QStringList mostrada;
+    for (int i = 0; i < combo1_->count(); ++i) mostrada << combo1_->itemText(i);
+    if (mostrada != lista) { // refilled only when it changed, so an open list isn't disturbed
         combo1_->clear();
-        for (const std::string& nome : lista) combo1_->addItem(QString::fromStdString(nome));
+        combo1_->addItems(lista);
     }
     combo1_->setCurrentIndex(escolha_.selecionada());
     label10_->setText(QString::fromStdString(escolha_.jogos));
