@@ -252,13 +252,9 @@ void JanelaMesa::showEvent(QShowEvent* e) {
     QTimer::singleShot(0, this, [this] { Form_Activate(jogo_); });
 }
 
-void JanelaMesa::abreAjuda() {
-    iniciaAjuda(); // a help that isn't there: nothing happens
-}
-
 void JanelaMesa::atende(PedidoDaTecla pedido) {
     if (pedido == PedidoDaTecla::Fechar) close();
-    if (pedido == PedidoDaTecla::Ajuda) abreAjuda();
+    if (pedido == PedidoDaTecla::Ajuda) iniciaAjuda(); // a help that isn't there: nothing happens
 }
 
 void JanelaMesa::closeEvent(QCloseEvent* e) {

@@ -45,7 +45,6 @@ class JanelaMesa : public QWidget {
     void desenhaTextos(QPainter& p);
     void clique(const Toque& t);
     void atende(PedidoDaTecla pedido);
-    void abreAjuda();
 
     Jogo& jogo_;
     VistaQt& vista_;

@@ -1,29 +1,20 @@
 #include "shell/vista_qt.h"
 
-#include <QAbstractButton>
 #include <QCoreApplication>
 #include <QEventLoop>
-#include <QMessageBox>
 #include <QTimer>
 
 #include "core/ajustes.h"
+#include "players/qt/caixa_do_sistema.h"
 
 namespace corvina {
 
 int VistaQt::caixaMensagem(const std::string& texto, int estilo, const std::string& titulo) {
     if (teste_) return estilo == kEstiloSimNao ? kBotaoNao : kBotaoOk;
-    QMessageBox caixa(tela_);
-    caixa.setWindowTitle(QString::fromStdString(titulo.empty() ? kTitulo : titulo));
-    caixa.setText(QString::fromStdString(texto));
-    if (estilo == kEstiloSimNao) {
-        caixa.setIcon(QMessageBox::Question);
-        caixa.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-        caixa.button(QMessageBox::Yes)->setText("Sim");
-        caixa.button(QMessageBox::No)->setText("Não");
-        return caixa.exec() == QMessageBox::Yes ? kBotaoSim : kBotaoNao;
-    }
-    caixa.setIcon(estilo == kEstiloInformacao ? QMessageBox::Information : QMessageBox::NoIcon);
-    caixa.exec();
+    const QString t = QString::fromStdString(texto), tt = QString::fromStdString(titulo);
+    if (estilo == kEstiloSimNao) return perguntaDoSistema(tela_, t, tt) ? kBotaoSim : kBotaoNao;
+    avisoDoSistema(tela_, t, tt,
+                   estilo == kEstiloInformacao ? QMessageBox::Information : QMessageBox::NoIcon);
     return kBotaoOk;
 }
 

@@ -25,7 +25,6 @@ class VistaQt : public VistaDeCena {
     // through this when it is set.
     std::function<void(Janela)> aoAbrirJanela;
     void modoDeTeste(bool ligado) { teste_ = ligado; }
-    bool emModoDeTeste() const { return teste_; }
 
     int caixaMensagem(const std::string& texto, int estilo, const std::string& titulo) override;
     void preparaPlacar(const Placar& placar) override;

@@ -3,10 +3,9 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QKeyEvent>
-#include <QMessageBox>
-#include <QTimer>
 
 #include "core/ajustes.h"
+#include "players/qt/caixa_do_sistema.h"
 #include "players/qt/frm_novo_jogador.h"
 #include "players/qt/janelas_figuras.h"
 
@@ -19,20 +18,15 @@ const char* const kEstiloLista =
     "QComboBox QAbstractItemView { color: rgb(30,30,30); background: rgb(250,248,240); "
     "selection-background-color: rgb(214,180,92); }";
 
-bool perguntaDoSistema(QWidget* dono, const std::string& texto) {
-    QMessageBox caixa(QMessageBox::Question, kTitulo, QString::fromStdString(texto),
-                      QMessageBox::Yes | QMessageBox::No, dono);
-    caixa.button(QMessageBox::Yes)->setText("Sim");
-    caixa.button(QMessageBox::No)->setText("Não");
-    return caixa.exec() == QMessageBox::Yes;
-}
 } // namespace
 
 FrmNome::FrmNome(QWidget* dono, Module1& modulo, Armazem& armazem, Som* som, bool cancelavel)
     : JanelaDeFigura(dono, figuraDaJanela("frmnome"), {420, 288}), modulo_(modulo),
       armazem_(armazem), som_(som),
       escolha_(modulo, armazem,
-               {[this](const std::string& t) { return perguntaDoSistema(this, t); },
+               {[this](const std::string& t) {
+                    return perguntaDoSistema(this, QString::fromStdString(t));
+                },
                 [this] { abreNovoJogador(); },
                 [this] {
                     if (som_) som_->iniciaMusica(modulo_.tocarMusica);
@@ -133,16 +127,10 @@ void FrmNome::abreNovoJogador() {
     mostra();
 }
 
-void FrmNome::showEvent(QShowEvent* e) {
-    JanelaDeFigura::showEvent(e);
-    if (ativada_) return;
-    ativada_ = true;
-    // After the window is on the screen, as a first activation: a box over it may open.
-    QTimer::singleShot(0, this, [this] {
-        setFocus();
-        escolha_.primeiraAtivacao();
-        mostra();
-    });
+void FrmNome::primeiraAtivacao() {
+    setFocus(); // not the list's
+    escolha_.primeiraAtivacao();
+    mostra();
 }
 
 bool FrmNome::tecla(int key) {

@@ -18,7 +18,7 @@ class FrmNome : public JanelaDeFigura {
     FrmNome(QWidget* dono, Module1& modulo, Armazem& armazem, Som* som, bool cancelavel);
 
   protected:
-    void showEvent(QShowEvent* e) override;
+    void primeiraAtivacao() override;
     bool tecla(int key) override;
     void done(int resultado) override;
 
@@ -30,7 +30,7 @@ class FrmNome : public JanelaDeFigura {
     Armazem& armazem_;
     Som* som_;
     EscolhaDeJogador escolha_;
-    bool ativada_ = false, mostrando_ = false;
+    bool mostrando_ = false;
     QComboBox* combo1_;
     QCheckBox* check4_;
     QLabel *label10_, *label4_, *label5_, *label7_, *label14_;

@@ -1,7 +1,6 @@
 #include "players/qt/frm_records.h"
 
 #include <QMouseEvent>
-#include <QTimer>
 
 #include "core/textos.h"
 #include "players/qt/frm_sim_nao.h"
@@ -69,13 +68,8 @@ void FrmRecords::zera() {
     monta();
 }
 
-void FrmRecords::showEvent(QShowEvent* e) {
-    JanelaDeFigura::showEvent(e);
-    if (ativada_) return;
-    ativada_ = true;
-    QTimer::singleShot(0, this, [this] {
-        if (som_) som_->iniciaMusica(modulo_.tocarMusica);
-    });
+void FrmRecords::primeiraAtivacao() {
+    if (som_) som_->iniciaMusica(modulo_.tocarMusica);
 }
 
 void FrmRecords::mouseReleaseEvent(QMouseEvent* e) {

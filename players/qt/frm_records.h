@@ -16,7 +16,7 @@ class FrmRecords : public JanelaDeFigura {
     FrmRecords(QWidget* dono, const Module1& modulo, Armazem& armazem, Som* som);
 
   protected:
-    void showEvent(QShowEvent* e) override;
+    void primeiraAtivacao() override;
     void mouseReleaseEvent(QMouseEvent* e) override;
     bool tecla(int key) override;
     void done(int resultado) override;
@@ -27,7 +27,6 @@ class FrmRecords : public JanelaDeFigura {
     const Module1& modulo_;
     Armazem& armazem_;
     Som* som_;
-    bool ativada_ = false;
     struct Linha {
         QLabel *nome, *vitorias, *derrotas, *saldo;
     };

@@ -5,6 +5,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
+#include <QTimer>
 #include <QWindow>
 
 namespace corvina {
@@ -102,6 +103,13 @@ void JanelaDeFigura::centraNoDono() {
 
 void JanelaDeFigura::vigiaTeclas() {
     for (QWidget* w : findChildren<QWidget*>()) w->installEventFilter(this);
+}
+
+void JanelaDeFigura::showEvent(QShowEvent* e) {
+    QDialog::showEvent(e);
+    if (ativada_) return;
+    ativada_ = true;
+    QTimer::singleShot(0, this, [this] { primeiraAtivacao(); });
 }
 
 void JanelaDeFigura::paintEvent(QPaintEvent*) {

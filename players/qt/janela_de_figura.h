@@ -42,7 +42,11 @@ class JanelaDeFigura : public QDialog {
     virtual bool tecla(int /*key*/) { return false; }
     // Once the parts exist: the keys of each pass through tecla().
     void vigiaTeclas();
+    // Runs once per showing, after the window is on the screen: the window is activated again
+    // whenever a box over it closes, and only the first activation acts.
+    virtual void primeiraAtivacao() {}
 
+    void showEvent(QShowEvent* e) override;
     void paintEvent(QPaintEvent*) override;
     void keyPressEvent(QKeyEvent* e) override;
     bool eventFilter(QObject* alvo, QEvent* e) override;
@@ -50,6 +54,7 @@ class JanelaDeFigura : public QDialog {
   private:
     QPixmap figura_;
     QWidget* alca_ = nullptr;
+    bool ativada_ = false;
 };
 
 } // namespace corvina

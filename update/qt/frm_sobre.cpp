@@ -3,12 +3,12 @@
 #include <QApplication>
 #include <QDesktopServices>
 #include <QLabel>
-#include <QMessageBox>
 #include <QPainter>
 #include <QPushButton>
 #include <QUrl>
 
 #include "core/ajustes.h"
+#include "players/qt/caixa_do_sistema.h"
 #include "players/qt/janela_de_figura.h"
 #include "players/qt/janelas_figuras.h"
 #include "update/campos.h"
@@ -79,20 +79,13 @@ void FrmSobre::atualizar() {
     QApplication::restoreOverrideCursor();
     command1_->setEnabled(true);
     if (campoQ(resposta, 1) != texto::kLink) {
-        QMessageBox caixa(QMessageBox::NoIcon, kTitulo, resposta, QMessageBox::Ok, this);
-        caixa.setObjectName("caixaMensagem");
-        caixa.exec();
+        avisoDoSistema(this, resposta);
         return;
     }
-    QMessageBox pergunta(QMessageBox::Question, kTitulo,
-                         QString(texto::kUtilizando) +
-                             QString::fromStdString(versaoParaUsuario(versao_)) + "\n\n" +
-                             texto::kDesejaAtualizar + campoQ(resposta, 3) + texto::kAgora,
-                         QMessageBox::Yes | QMessageBox::No, this);
-    pergunta.setObjectName("caixaMensagem");
-    pergunta.button(QMessageBox::Yes)->setText("Sim");
-    pergunta.button(QMessageBox::No)->setText("Não");
-    if (pergunta.exec() != QMessageBox::Yes) return;
+    if (!perguntaDoSistema(this, QString(texto::kUtilizando) +
+                                     QString::fromStdString(versaoParaUsuario(versao_)) + "\n\n" +
+                                     texto::kDesejaAtualizar + campoQ(resposta, 3) + texto::kAgora))
+        return;
     // The line ends in the delimiter, so the URL carries no line break.
     abreFrmUp(campoQ(resposta, 4), campoQ(resposta, 5));
 }

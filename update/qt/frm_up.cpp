@@ -4,7 +4,6 @@
 #include <QDir>
 #include <QFile>
 #include <QLabel>
-#include <QMessageBox>
 #include <QProcess>
 #include <QRandomGenerator>
 #include <QTimer>
@@ -12,6 +11,7 @@
 #include <cstdlib>
 
 #include "core/ajustes.h"
+#include "players/qt/caixa_do_sistema.h"
 #include "players/qt/pastas.h"
 #include "update/assinatura.h"
 #include "update/enderecos.h"
@@ -69,12 +69,6 @@ void FrmUp::showEvent(QShowEvent* e) {
     QTimer::singleShot(0, this, [this] { baixa(); });
 }
 
-void FrmUp::avisa(const QString& texto) {
-    QMessageBox caixa(QMessageBox::NoIcon, kTitulo, texto, QMessageBox::Ok, this);
-    caixa.setObjectName("caixaMensagem");
-    caixa.exec();
-}
-
 void FrmUp::baixa() {
     QCoreApplication::processEvents(); // the window painted before the wait
     destino_ = destinoDoInstalador();
@@ -87,14 +81,15 @@ void FrmUp::baixa() {
          !assinaturaConfere(destino_.toStdString(), assinatura_.toStdString(),
                             chavePublica.toStdString()))) {
         QFile::remove(destino_);
-        avisa(texto::kSemDownload);
+        avisoDoSistema(this, texto::kSemDownload);
         return reject();
     }
     if (!QFile::exists(destino_)) {
-        avisa(QString(texto::kSemInstalador) + "\r\r" + texto::kTenteDepois + enderecos::kSite);
+        avisoDoSistema(this, QString(texto::kSemInstalador) + "\r\r" + texto::kTenteDepois +
+                                 enderecos::kSite);
         return reject();
     }
-    avisa(QString("O ") + kTitulo + texto::kSeraFechado);
+    avisoDoSistema(this, QString("O ") + kTitulo + texto::kSeraFechado);
     QStringList comando = QString(enderecos::kInstalador).split(' ', Qt::SkipEmptyParts);
     if (comando.isEmpty()) return reject();
     const QString programa = comando.takeFirst();

@@ -35,7 +35,6 @@ class FrmUp : public QDialog {
 
   private:
     void baixa();
-    void avisa(const QString& texto);
     QString link_, assinatura_, destino_;
     DL dl1_;
     ProgressBarXP* barra_;
