@@ -99,11 +99,14 @@ void EscolhaDeJogador::fecha() {
 }
 
 void EscolhaDeJogador::excluir() {
-    const int n = posicaoNaLista(armazem_, aparaBrancos(textoSelecionado()));
-    if (n == 0) return; // nothing selected, or the store changed under the window
-    const std::string nome = armazem_.le(chaveBase(), ajuste::jogador(n), "");
+    const std::string procurado = aparaBrancos(textoSelecionado());
+    const int n = posicaoNaLista(armazem_, procurado);
+    // With nothing selected the search ends at the first free place, an empty name: the
+    // question is asked all the same, and Sim removes nothing.
+    if (n == 0 && !procurado.empty()) return; // the store changed under the window
+    const std::string nome = n == 0 ? "" : armazem_.le(chaveBase(), ajuste::jogador(n), "");
     if (!arredores_.perguntaSimNao(std::string(texto::kDesejaExcluir) + nome + "?")) return;
-    tiraDaLista(armazem_, n);
+    if (n > 0) tiraDaLista(armazem_, n);
     preenche();
     seleciona(armazem_.le(chaveBase(), ajuste::jogador(1), ""));
     if (lista_.empty()) {

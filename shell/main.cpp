@@ -60,8 +60,8 @@ int main(int argc, char** argv) {
     QApplication app(argc, argv);
     QApplication::setOrganizationName("Lunaris");
     QApplication::setApplicationName("Corvina");
-    QApplication::setApplicationVersion(CORVINA_VERSAO);
-    const Versao versao{CORVINA_VERSAO_MAJOR, CORVINA_VERSAO_MINOR, CORVINA_VERSAO_REVISAO};
+    const Versao versao = versaoDoPrograma();
+    QApplication::setApplicationVersion(QString::fromStdString(versaoParaChecagem(versao)));
 
     const QPixmap figura = figuraDoSplash();
     Splash splash(figura, QString::fromStdString(versaoParaUsuario(versao)));

@@ -20,6 +20,10 @@ std::string comoTexto(std::string_view versao) {
 }
 } // namespace
 
+Versao versaoDoPrograma() {
+    return {CORVINA_VERSAO_MAJOR, CORVINA_VERSAO_MINOR, CORVINA_VERSAO_REVISAO};
+}
+
 std::string versaoParaChecagem(Versao v) {
     return std::to_string(v.major) + "." + std::to_string(v.minor) + "." +
            std::to_string(v.revisao);

@@ -10,6 +10,9 @@ struct Versao {
     int major = 0, minor = 0, revisao = 0;
 };
 
+// This program's version, set where the build names it.
+Versao versaoDoPrograma();
+
 // "3.7.4": always three numbers.
 std::string versaoParaChecagem(Versao v);
 // "3.7.4", but "3.7" when the revision is 0.

@@ -12,15 +12,22 @@ QString tituloOuPrograma(const QString& titulo) {
 }
 } // namespace
 
+QString comQuebras(QString texto) {
+    texto.replace("\r\n", "\n");
+    texto.replace('\r', '\n');
+    return texto;
+}
+
 void avisoDoSistema(QWidget* dono, const QString& texto, const QString& titulo,
                     QMessageBox::Icon icone) {
-    QMessageBox caixa(icone, tituloOuPrograma(titulo), texto, QMessageBox::Ok, dono);
+    QMessageBox caixa(icone, tituloOuPrograma(titulo), comQuebras(texto), QMessageBox::Ok, dono);
     caixa.setObjectName("caixaMensagem");
     caixa.exec();
 }
 
-bool perguntaDoSistema(QWidget* dono, const QString& texto, const QString& titulo) {
-    QMessageBox caixa(QMessageBox::Question, tituloOuPrograma(titulo), texto,
+bool perguntaDoSistema(QWidget* dono, const QString& texto, const QString& titulo,
+                       QMessageBox::Icon icone) {
+    QMessageBox caixa(icone, tituloOuPrograma(titulo), comQuebras(texto),
                       QMessageBox::Yes | QMessageBox::No, dono);
     caixa.setObjectName("caixaMensagem");
     caixa.button(QMessageBox::Yes)->setText("Sim");

@@ -11,6 +11,10 @@ namespace corvina {
 void avisoDoSistema(QWidget* dono, const QString& texto, const QString& titulo = {},
                     QMessageBox::Icon icone = QMessageBox::NoIcon);
 // A question with Sim and Não; true on Sim.
-bool perguntaDoSistema(QWidget* dono, const QString& texto, const QString& titulo = {});
+bool perguntaDoSistema(QWidget* dono, const QString& texto, const QString& titulo = {},
+                       QMessageBox::Icon icone = QMessageBox::NoIcon);
+
+// The game's texts break their lines with a carriage return, which Qt would show as a blank.
+QString comQuebras(QString texto);
 
 } // namespace corvina

@@ -25,7 +25,8 @@ FrmNome::FrmNome(QWidget* dono, Module1& modulo, Armazem& armazem, Som* som, boo
       armazem_(armazem), som_(som),
       escolha_(modulo, armazem,
                {[this](const std::string& t) {
-                    return perguntaDoSistema(this, QString::fromStdString(t));
+                    return perguntaDoSistema(this, QString::fromStdString(t), {},
+                                             QMessageBox::Question);
                 },
                 [this] { abreNovoJogador(); },
                 [this] {

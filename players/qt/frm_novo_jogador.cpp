@@ -37,11 +37,14 @@ FrmNovoJogador::FrmNovoJogador(QWidget* dono, Module1& modulo, Armazem& armazem,
 
 void FrmNovoJogador::ok() {
     novo_.digita(text1_->text().toStdString());
-    if (novo_.ok()) {
+    const bool fecha = novo_.ok();
+    // An emptied box became the proposed name, and what stands in the box is the name that
+    // closing hands to the table.
+    text1_->setText(QString::fromStdString(novo_.texto()));
+    if (fecha) {
         accept();
         return;
     }
-    text1_->setText(QString::fromStdString(novo_.texto()));
     text1_->selectAll();
     text1_->setFocus();
 }

@@ -1,5 +1,6 @@
 #include "players/qt/frm_sim_nao.h"
 
+#include "players/qt/caixa_do_sistema.h"
 #include "players/qt/janela_de_figura.h"
 #include "players/qt/janelas_figuras.h"
 
@@ -17,7 +18,7 @@ class FrmSimNao : public JanelaDeFigura {
         QLabel* l4 = rotulo("Label4", titulo, emPixels(210, 195, 5550, 255), 14, true,
                             QColor(220, 220, 220));
         alca(l4);
-        QLabel* pergunta = rotulo("Label1", mensagem, emPixels(315, 690, 5355, 615));
+        QLabel* pergunta = rotulo("Label1", comQuebras(mensagem), emPixels(315, 690, 5355, 615));
         pergunta->setWordWrap(true);
         pergunta->setAlignment(Qt::AlignLeft | Qt::AlignTop);
         comando("Label2", "Sim", emPixels(4320, 1545, 1395, 225), [this] {

@@ -153,6 +153,18 @@ TEST_F(Jogadores, TheRegisterCommandIsOffAtFiftyAndTheLastDeletionAsksForAPlayer
     acontecimentos.clear();
     k.excluir();
     EXPECT_EQ(acontecimentos.back(), "novo jogador");
+
+    // An empty list selects nothing: the question names nobody, and only Sim goes on.
+    a = ArmazemMemoria();
+    EscolhaDeJogador vazia = janela();
+    vazia.carrega(false);
+    acontecimentos.clear();
+    respostaExcluir = false;
+    vazia.excluir();
+    EXPECT_EQ(acontecimentos, std::vector<std::string>{"pergunta Deseja realmente excluir ?"});
+    respostaExcluir = true;
+    vazia.excluir();
+    EXPECT_EQ(acontecimentos.back(), "novo jogador");
 }
 
 struct Cadastro : Jogadores {

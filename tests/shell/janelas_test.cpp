@@ -61,7 +61,7 @@ struct Mesa : testing::Test {
     Som som{sons, ondas, midi};
     AcasoSemente acaso{7};
     Jogo jogo{vista, acaso};
-    JanelasQt janelas{jogo, settings, &som, Versao{0, 1, 0}};
+    JanelasQt janelas{jogo, settings, &som, versaoDoPrograma()};
     JanelaMesa janela{jogo, vista, imagens};
 
     Mesa() {
@@ -122,6 +122,33 @@ TEST_F(Mesa, AFirstPlayerIsRegisteredAndPlaysInAssistedMode) {
     EXPECT_TRUE(vista.cena().textos.statusVisivel) << "assisted mode reaches the table";
     EXPECT_EQ(ajuste("Jogador1"), "Zé d'Água");
     EXPECT_EQ(settings.le(chaveJogador("ZÉ D'ÁGUA"), "Assistido", ""), "1");
+}
+
+TEST_F(Mesa, AnEmptiedNameBoxPlaysAsTheProposedName) {
+    // Once as a new name, once as one already registered, answered Sim.
+    for (const bool jaCadastrado : {false, true}) {
+        settings.grava(chaveBase(), ajuste::jogador(1), "Ze");
+        settings.grava(chaveBase(), ajuste::jogador(2), jaCadastrado ? "Jogador" : "");
+        if (jaCadastrado)
+            quandoAbrir("FrmSimNao", [](QWidget* w) {
+                EXPECT_TRUE(parte<QLabel>(w, "Label1")->text().contains("cadastrado\nDeseja"))
+                    << "the question's break shows as a break";
+                QTest::keyClick(w, Qt::Key_Return);
+            });
+        quandoAbrir("FrmNovoJogador", [](QWidget* w) {
+            parte<QLineEdit>(w, "Text1")->clear();
+            QTest::keyClick(parte(w, "Text1"), Qt::Key_Return);
+        });
+        quandoAbrir("FrmNome", [](QWidget* w) {
+            clica(w, "Label8");
+            EXPECT_EQ(parte<QComboBox>(w, "Combo1")->currentText(), "Jogador");
+            clica(w, "Label9");
+        });
+        janelas.abre(Janela::FrmNome, {});
+        EXPECT_EQ(jogo.modulo.nomeJogador, "Jogador");
+        EXPECT_EQ(ajuste("Jogador2"), "Jogador");
+        EXPECT_EQ(ajuste("Jogador3"), "") << "registered once";
+    }
 }
 
 TEST_F(Mesa, NewMatchFromTheToolbarCanBeCancelledOrPlayed) {
@@ -248,7 +275,7 @@ TEST_F(Mesa, EveryToolbarWordClicksWhenSoundIsOnAndTheAboutPictureOpensItsWindow
 
     quandoAbrir("FrmSobre", [](QWidget* w) {
         EXPECT_EQ(w->windowTitle(), " Sobre o Corvina");
-        EXPECT_EQ(parte<QLabel>(w, "Label1")->text(), "Lunaris - Corvina  0.1");
+        EXPECT_EQ(parte<QLabel>(w, "Label1")->text(), "Lunaris - Corvina  3.7.4");
         clica(w, "Command1");
     });
     QTest::mouseClick(&janela, Qt::LeftButton, {}, QPoint(690, 40));

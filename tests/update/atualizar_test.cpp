@@ -134,7 +134,7 @@ TEST_F(Atualizacao, NothingUnsignedOrBrokenIsEverStarted) {
 
 TEST_F(Atualizacao, TheAboutWindowChecksAsksAndOpensTheDownload) {
     const QString oferta =
-        "!*!Corvina!*!0.2.0!*!" + servidor.url("/c.deb") + "!*!" + chave.assina(pacote) + "!*!";
+        "!*!Corvina!*!3.7.5!*!" + servidor.url("/c.deb") + "!*!" + chave.assina(pacote) + "!*!";
     const struct {
         const char* caso;
         Resposta resposta;
@@ -143,10 +143,14 @@ TEST_F(Atualizacao, TheAboutWindowChecksAsksAndOpensTheDownload) {
         bool baixa;
     } casos[] = {
         {"newer, accepted", Resposta::texto(("aviso\r\n" + oferta).toUtf8()), QMessageBox::Yes,
-         "Você está utilizando a versão 0.1\n\nDeseja atualizar para a versão 0.2.0 agora?", true},
+         "Você está utilizando a versão 3.7.4\n\nDeseja atualizar para a versão 3.7.5 agora?",
+         true},
         {"newer, refused", Resposta::texto(oferta.toUtf8()), QMessageBox::No,
-         "Você está utilizando a versão 0.1\n\nDeseja atualizar para a versão 0.2.0 agora?", false},
-        {"the same version", Resposta::texto("!*!Corvina!*!0.1.0!*!u!*!"), QMessageBox::Ok,
+         "Você está utilizando a versão 3.7.4\n\nDeseja atualizar para a versão 3.7.5 agora?",
+         false},
+        {"the same version", Resposta::texto("!*!Corvina!*!3.7.4!*!u!*!"), QMessageBox::Ok,
+         "Você já está utilizando a versão mais recente do Corvina", false},
+        {"an older version", Resposta::texto("!*!Corvina!*!3.7.3!*!u!*!"), QMessageBox::Ok,
          "Você já está utilizando a versão mais recente do Corvina", false},
         {"garbage", Resposta::so(Resposta::Tipo::Lixo), QMessageBox::Ok,
          "Não foi possível conectar ao servidor", false},
@@ -155,14 +159,14 @@ TEST_F(Atualizacao, TheAboutWindowChecksAsksAndOpensTheDownload) {
     };
     for (const auto& c : casos) {
         servidor.caminhos["/update.php?prog=Corvina"] = c.resposta;
-        FrmSobre sobre(nullptr, Versao{0, 1, 0});
+        FrmSobre sobre(nullptr, versaoDoPrograma());
         sobre.servidor = servidor.url("/");
         sobre.paciencia = 0.5;
         QStringList abertos;
         sobre.abreFrmUp = [&](const QString& link, const QString& assinatura) {
             abertos << link << assinatura;
         };
-        EXPECT_EQ(sobre.findChild<QLabel*>("Label1")->text(), "Lunaris - Corvina  0.1");
+        EXPECT_EQ(sobre.findChild<QLabel*>("Label1")->text(), "Lunaris - Corvina  3.7.4");
         QString texto;
         responde(&texto, c.botao);
         sobre.atualizar();
