@@ -1,6 +1,6 @@
 cmake_minimum_required(VERSION 3.25)
 # Builds the Debian package, unpacks it into a scratch root outside the build tree, validates
-# its desktop entry and metadata, and starts the installed game offscreen: a data file left out
+# its desktop entry and metadata, has Debian's checker read it, and starts the installed game offscreen: a data file left out
 # of the package fails here.
 # Usage: cmake -DBUILD=<build dir> -P instalacao.cmake
 string(RANDOM LENGTH 8 sorte)
@@ -21,9 +21,12 @@ if(NOT status EQUAL 0)
 endif()
 
 set(usr ${raiz}/raiz/usr)
-foreach(arquivo bin/corvina bin/corvinahlp share/corvina/mesa.png share/corvina/sons/click2.wav
-        share/corvina/sons/passport.mid share/corvina/janelas/frmnome.png
-        share/icons/hicolor/256x256/apps/br.com.lunaris.Corvina.png)
+foreach(arquivo games/corvina games/corvinahlp libexec/corvina/corvina-instala
+        share/games/corvina/mesa.png share/games/corvina/sons/click2.wav
+        share/games/corvina/sons/passport.mid share/games/corvina/janelas/frmnome.png
+        share/icons/hicolor/256x256/apps/br.com.lunaris.Corvina.png
+        share/polkit-1/actions/br.com.lunaris.Corvina.atualiza.policy
+        share/man/man6/corvina.6.gz share/doc/corvina/copyright share/doc/corvina/changelog.gz)
   if(NOT EXISTS ${usr}/${arquivo})
     message(FATAL_ERROR "the package lacks ${arquivo}")
   endif()
@@ -40,12 +43,20 @@ if(NOT status EQUAL 0)
   message(FATAL_ERROR "appstreamcli validate:\n${saida}")
 endif()
 
+# Debian's own checker: no error and no warning.
+execute_process(COMMAND lintian --fail-on error,warning ${pacote}
+                RESULT_VARIABLE status OUTPUT_VARIABLE saida ERROR_VARIABLE saida)
+if(NOT status EQUAL 0)
+  message(FATAL_ERROR "lintian:\n${saida}")
+endif()
+message(STATUS "lintian: ${saida}")
+
 # The installed game, started as on a first day: it must still be running, having found all
 # its pictures, when the time is up.
 file(MAKE_DIRECTORY ${raiz}/casa)
 execute_process(COMMAND ${CMAKE_COMMAND} -E env QT_QPA_PLATFORM=offscreen HOME=${raiz}/casa
                         XDG_CONFIG_HOME=${raiz}/casa/.config XDG_DATA_HOME=${raiz}/casa/.local
-                        ${usr}/bin/corvina
+                        ${usr}/games/corvina
                 TIMEOUT 4 RESULT_VARIABLE status OUTPUT_VARIABLE saida ERROR_VARIABLE saida)
 file(REMOVE_RECURSE ${raiz})
 if(NOT status MATCHES "timeout")

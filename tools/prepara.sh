@@ -20,6 +20,7 @@ pacotes=(
   desktop-file-utils
   appstream
   timgm6mb-soundfont
+  lintian
 )
 
 faltam=()

@@ -1,7 +1,7 @@
 #pragma once
 // Where the update comes from and how it is installed: set once, when the game is built
 // (CMake options CORVINA_SERVIDOR_UPDATE, CORVINA_SITE, CORVINA_CHAVE_PUBLICA,
-// CORVINA_INSTALADOR), so that a packager can point them elsewhere.
+// CORVINA_AJUDANTE), so that a packager can point them elsewhere.
 
 namespace corvina::enderecos {
 
@@ -13,7 +13,8 @@ inline constexpr const char* kFaleConosco = "html/faleconosco.html";
 // The public half of the key that signs the installers, 64 hex digits; with none, no
 // installer is ever started.
 inline constexpr const char* kChavePublica = CORVINA_CHAVE_PUBLICA;
-// The system's package installer; the package's path is added as its last argument.
-inline constexpr const char* kInstalador = CORVINA_INSTALADOR;
+// The privileged helper that checks the package again, as root, and installs it; started
+// through pkexec with the package's path and its signature.
+inline constexpr const char* kAjudante = CORVINA_AJUDANTE;
 
 } // namespace corvina::enderecos

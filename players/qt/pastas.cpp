@@ -5,6 +5,7 @@
 #include <QStandardPaths>
 
 #include "core/ajustes.h"
+#include "players/pasta_privada.h"
 
 namespace corvina {
 
@@ -23,8 +24,11 @@ QString pastaPessoal() {
 }
 
 QString pastaTemporaria() {
-    const QString temp = qEnvironmentVariable("TEMP");
-    return !temp.isEmpty() && QFileInfo(temp).isDir() ? temp : QDir::tempPath();
+    // Chosen once: a fresh folder of our own must serve the whole run.
+    static const QString pasta = QString::fromStdString(escolhePastaPrivada(
+        qEnvironmentVariable("TEMP").toStdString(),
+        qEnvironmentVariable("XDG_RUNTIME_DIR").toStdString(), QDir::tempPath().toStdString()));
+    return pasta;
 }
 
 } // namespace corvina

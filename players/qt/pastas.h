@@ -14,7 +14,9 @@ QString arquivoDeAjustes();
 // The user's documents folder (the home folder when there is none), where an update lands.
 QString pastaPessoal();
 
-// A folder for temporary files: $TEMP when it names a folder, else the system's.
+// A folder for temporary files that only this user can enter: $TEMP when it is such a
+// folder, else one of ours under $XDG_RUNTIME_DIR, else a fresh one under the system's.
+// "" when none can be had.
 QString pastaTemporaria();
 
 } // namespace corvina

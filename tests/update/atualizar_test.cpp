@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <sodium.h>
 
 #include "apoio/janela_modal.h"
@@ -75,7 +76,7 @@ struct Atualizacao : testing::Test {
     int fins = 0;
     // Runs FrmUp on a link and a signature; the text of the message it ended with.
     QString frmUp(const QString& caminho, const QString& assinatura, QString* destino = nullptr,
-                  QString chavePublica = {}) {
+                  QString chavePublica = {}, std::function<void(FrmUp&)> ajusta = {}) {
         FrmUp up(nullptr, servidor.url(caminho), assinatura);
         up.paciencia = 2;
         up.chavePublica = chavePublica.isNull() ? chave.publicaHex() : chavePublica;
@@ -84,6 +85,7 @@ struct Atualizacao : testing::Test {
             return true;
         };
         up.encerra = [this] { ++fins; };
+        if (ajusta) ajusta(up);
         QString texto;
         responde(&texto);
         up.exec();
@@ -97,12 +99,41 @@ TEST_F(Atualizacao, ASignedPackageIsHandedToTheInstallerAndTheRunEnds) {
     EXPECT_EQ(frmUp("/c.deb", chave.assina(pacote), &destino),
               "O Corvina será fechado para que a atualização seja feita");
     ASSERT_EQ(instaladores.size(), 1);
-    EXPECT_EQ(instaladores[0], "pkexec apt-get install -y " + destino);
+    EXPECT_EQ(instaladores[0],
+              QString("pkexec %1 %2 %3").arg(CORVINA_AJUDANTE, destino, chave.assina(pacote)))
+        << "the helper checks again what it installs";
     EXPECT_EQ(fins, 1);
     EXPECT_TRUE(destino.startsWith(casa.path() + "/Corvina-")) << destino.toStdString();
     QFile f(destino);
     ASSERT_TRUE(f.open(QIODevice::ReadOnly));
     EXPECT_EQ(f.readAll(), pacote);
+}
+
+TEST_F(Atualizacao, NeitherEscapeNorClosingStopsTheDownload) {
+    servidor.caminhos["/lento.deb"] = Resposta::gotejando(pacote, 8 * 1024, 60);
+    QString destino;
+    EXPECT_EQ(frmUp("/lento.deb", chave.assina(pacote), &destino, {},
+                    [](FrmUp& up) {
+                        QTimer::singleShot(150, &up, [&up] {
+                            QTest::keyClick(&up, Qt::Key_Escape);
+                            up.close();
+                            EXPECT_TRUE(up.isVisible()) << "still downloading";
+                        });
+                    }),
+              "O Corvina será fechado para que a atualização seja feita");
+    EXPECT_EQ(instaladores.size(), 1);
+}
+
+TEST_F(Atualizacao, AFileGoneAfterAGoodDownloadIsReportedAsNotFound) {
+    // A link left at the fresh name keeps the download from being renamed into place.
+    const QString atalho = casa.filePath("Corvina-atalho.deb");
+    ASSERT_TRUE(QFile::link(casa.filePath("nada"), atalho));
+    EXPECT_EQ(frmUp("/c.deb", chave.assina(pacote), nullptr, {},
+                    [&](FrmUp& up) { up.escolheDestino = [=] { return atalho; }; }),
+              "Não foi possivel localizar o arquivo de instalação\n\nTente novamente mais "
+              "tarde ou faça o download no site " CORVINA_SITE);
+    EXPECT_TRUE(instaladores.isEmpty());
+    EXPECT_EQ(fins, 0);
 }
 
 TEST_F(Atualizacao, NothingUnsignedOrBrokenIsEverStarted) {

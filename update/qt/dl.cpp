@@ -11,7 +11,9 @@
 #include <QTimer>
 #include <limits>
 
+#include "players/arquivo_regular.h"
 #include "players/qt/pastas.h"
+#include "update/assinatura.h"
 #include "update/resposta.h"
 
 namespace corvina {
@@ -98,25 +100,28 @@ bool DL::aguarda(const std::function<void(int)>& aCadaVolta) {
 }
 
 QString DL::GetConteudo(const QString& url, const QString& sID, double timeout) {
-    const QString destino = QDir(pastaTemporaria()).filePath("temp01.dat");
+    const QString pasta = pastaTemporaria();
+    const QString destino = QDir(pasta).filePath("temp01.dat");
     QFile::remove(destino); // what an earlier run left is not this answer
     controle_.inicia(agora(), timeout);
     controle_.zeraSituacao();
+    if (pasta.isEmpty()) { // nowhere private to put the answer: no answer
+        controle_.falhou();
+        return {};
+    }
     inicia(url, sID, destino, kMaiorTexto);
     if (!aguarda({})) return {};
-    QFile f(destino);
-    if (!f.open(QIODevice::ReadOnly)) return {};
-    const QByteArray corpo = f.read(kMaiorTexto);
-    f.close();
-    f.remove();
-    return QString::fromUtf8(ultimaLinha(std::string_view(corpo.constData(), corpo.size())));
+    const ArquivoLido lido = leArquivoRegular(destino.toStdString(), kMaiorTexto);
+    QFile::remove(destino);
+    if (lido.situacao != SituacaoDoArquivo::Lido) return {};
+    return QString::fromUtf8(ultimaLinha(lido.conteudo));
 }
 
 Situacao DL::Download(const QString& url, const QString& destino,
                       const std::function<void(int)>& objprogress, const QString& sID,
                       double timeout) {
     controle_.inicia(agora(), timeout);
-    inicia(url, sID, destino, std::numeric_limits<qint64>::max());
+    inicia(url, sID, destino, static_cast<qint64>(kMaiorInstalador));
     if (!aguarda(objprogress)) return Situacao::Falhou;
     if (objprogress) objprogress(controle_.percentual());
     return controle_.situacao();

@@ -1,5 +1,6 @@
 #include "update/qt/frm_up.h"
 
+#include <QCloseEvent>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -55,6 +56,7 @@ FrmUp::FrmUp(QWidget* dono, QString link, QString assinatura)
     iniciaInstalador = [](const QString& programa, const QStringList& argumentos) {
         return QProcess::startDetached(programa, argumentos);
     };
+    escolheDestino = destinoDoInstalador;
     encerra = [] {
         std::fflush(nullptr);
         std::_Exit(kSaidaDoUpdate); // without the closing steps: the settings are not written
@@ -70,32 +72,48 @@ void FrmUp::showEvent(QShowEvent* e) {
 }
 
 void FrmUp::baixa() {
+    ocupada_ = true;
     QCoreApplication::processEvents(); // the window painted before the wait
-    destino_ = destinoDoInstalador();
+    destino_ = escolheDestino();
     const Situacao r = dl1_.Download(
         link_, destino_, [this](int valor) { barra_->setValue(valor); }, "Id", paciencia);
-    // Nothing that isn't the file the maker signed is ever started: a truncated or tampered
-    // download, or a key that isn't there, is a failed download.
-    if (r != Situacao::Completo ||
-        (QFile::exists(destino_) &&
-         !assinaturaConfere(destino_.toStdString(), assinatura_.toStdString(),
-                            chavePublica.toStdString()))) {
+    if (r != Situacao::Completo) {
         QFile::remove(destino_);
-        avisoDoSistema(this, texto::kSemDownload);
-        return reject();
+        return falha(texto::kSemDownload);
     }
-    if (!QFile::exists(destino_)) {
-        avisoDoSistema(this, QString(texto::kSemInstalador) + "\r\r" + texto::kTenteDepois +
-                                 enderecos::kSite);
-        return reject();
+    if (!QFile::exists(destino_))
+        return falha(QString(texto::kSemInstalador) + "\r\r" + texto::kTenteDepois +
+                     enderecos::kSite);
+    // A first gate, so that the player hears of a bad file now: nothing the maker didn't sign
+    // goes further. The helper checks again, as root, on a copy of its own.
+    if (!assinaturaConfere(destino_.toStdString(), assinatura_.toStdString(),
+                           chavePublica.toStdString())) {
+        QFile::remove(destino_);
+        return falha(texto::kSemDownload);
     }
     avisoDoSistema(this, QString("O ") + kTitulo + texto::kSeraFechado);
-    QStringList comando = QString(enderecos::kInstalador).split(' ', Qt::SkipEmptyParts);
-    if (comando.isEmpty()) return reject();
-    const QString programa = comando.takeFirst();
-    iniciaInstalador(programa, comando << destino_);
+    iniciaInstalador("pkexec", {enderecos::kAjudante, destino_, assinatura_});
     encerra();
+    ocupada_ = false;
     accept(); // only where the end was replaced
+}
+
+void FrmUp::falha(const QString& mensagem) {
+    avisoDoSistema(this, mensagem);
+    ocupada_ = false;
+    reject();
+}
+
+void FrmUp::reject() {
+    // Nothing cancels a download under way: Escape does nothing until it ends.
+    if (!ocupada_) QDialog::reject();
+}
+
+void FrmUp::closeEvent(QCloseEvent* e) {
+    if (ocupada_)
+        e->ignore();
+    else
+        QDialog::closeEvent(e);
 }
 
 } // namespace corvina

@@ -1,6 +1,6 @@
 #pragma once
 // FrmUp: downloads the newer installer with its bar, checks its signature, hands it to the
-// system's package installer and ends the program.
+// privileged helper that installs it, and ends the program. It can't be cancelled.
 
 #include <QDialog>
 #include <functional>
@@ -23,6 +23,8 @@ class FrmUp : public QDialog {
     // arguments; false when it can't start), and end the run with exit code 1.
     std::function<bool(const QString&, const QStringList&)> iniciaInstalador;
     std::function<void()> encerra;
+    // Where the installer is put: a fresh file in the documents folder.
+    std::function<QString()> escolheDestino;
     // The watchdog's patience and the key the signature must verify against.
     double paciencia = 30;
     QString chavePublica{enderecos::kChavePublica};
@@ -30,15 +32,20 @@ class FrmUp : public QDialog {
     // Where the installer was put, once the download has started.
     const QString& destino() const { return destino_; }
 
+    void reject() override;
+
   protected:
     void showEvent(QShowEvent* e) override;
+    void closeEvent(QCloseEvent* e) override;
 
   private:
     void baixa();
+    void falha(const QString& mensagem);
     QString link_, assinatura_, destino_;
     DL dl1_;
     ProgressBarXP* barra_;
     bool ativada_ = false;
+    bool ocupada_ = false; // from the first activation to the last box
 };
 
 // A fresh file for the installer in the user's documents folder, never one an earlier try left.

@@ -1,0 +1,27 @@
+// The update helper as its tests run it: the same code, with the user, the safe folder, the key
+// and the installer taken from the environment instead of pkexec and the system.
+
+#include <unistd.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+
+#include "update/instalador/instala.h"
+
+namespace {
+std::string ambiente(const char* nome) {
+    const char* v = std::getenv(nome);
+    return v ? v : "";
+}
+} // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 3) return static_cast<int>(corvina::Desfecho::Argumentos);
+    const corvina::AmbienteDoInstalador a{::getuid(),
+                                          ambiente("CASA"),
+                                          ambiente("PASTA_SEGURA"),
+                                          ambiente("CHAVE"),
+                                          {ambiente("INSTALADOR")}};
+    return static_cast<int>(corvina::instalaAtualizacao(argv[1], argv[2], a));
+}
