@@ -6,20 +6,20 @@ namespace corvina::cli {
 
 using json = nlohmann::ordered_json;
 
-const json& campo(const json& pedido, const char* nome) {
+const Pedido& campo(const Pedido& pedido, const char* nome) {
     const auto it = pedido.find(nome);
     if (it == pedido.end()) throw PedidoInvalido(std::string("missing field \"") + nome + "\"");
     return *it;
 }
 
-std::string texto(const json& pedido, const char* nome) {
-    const json& v = campo(pedido, nome);
+std::string texto(const Pedido& pedido, const char* nome) {
+    const Pedido& v = campo(pedido, nome);
     if (!v.is_string()) throw PedidoInvalido(std::string("\"") + nome + "\" must be a string");
     return v.get<std::string>();
 }
 
-long inteiro(const json& pedido, const char* nome, long minimo, long maximo) {
-    const json& v = campo(pedido, nome);
+long inteiro(const Pedido& pedido, const char* nome, long minimo, long maximo) {
+    const Pedido& v = campo(pedido, nome);
     if (!v.is_number_integer())
         throw PedidoInvalido(std::string("\"") + nome + "\" must be a whole number");
     // A number above the signed range is stored unsigned: it must not wrap into a small one.
@@ -32,20 +32,20 @@ long inteiro(const json& pedido, const char* nome, long minimo, long maximo) {
     return n;
 }
 
-bool booleano(const json& pedido, const char* nome) {
-    const json& v = campo(pedido, nome);
+bool booleano(const Pedido& pedido, const char* nome) {
+    const Pedido& v = campo(pedido, nome);
     if (!v.is_boolean())
         throw PedidoInvalido(std::string("\"") + nome + "\" must be true or false");
     return v.get<bool>();
 }
 
-Lado lado(const json& pedido) {
+Lado lado(const Pedido& pedido) {
     const auto l = ladoDaChave(texto(pedido, "side"));
     if (!l) throw PedidoInvalido("\"side\" must be \"Jog\" or \"Mac\"");
     return *l;
 }
 
-Carta carta(const json& valor, const char* nome) {
+Carta carta(const Pedido& valor, const char* nome) {
     if (!valor.is_string())
         throw PedidoInvalido(std::string("cards in \"") + nome + "\" are strings like \"7/1\"");
     const auto c = lerCarta(valor.get<std::string>());
@@ -55,9 +55,9 @@ Carta carta(const json& valor, const char* nome) {
     return *c;
 }
 
-std::vector<Carta> cartas(const json& pedido, const char* nome,
+std::vector<Carta> cartas(const Pedido& pedido, const char* nome,
                           std::initializer_list<std::size_t> tamanhos) {
-    const json& v = campo(pedido, nome);
+    const Pedido& v = campo(pedido, nome);
     if (!v.is_array()) throw PedidoInvalido(std::string("\"") + nome + "\" must be an array");
     bool cabe = false;
     std::string lista;
@@ -67,7 +67,7 @@ std::vector<Carta> cartas(const json& pedido, const char* nome,
     }
     if (!cabe) throw PedidoInvalido(std::string("\"") + nome + "\" must hold " + lista + " cards");
     std::vector<Carta> saida;
-    for (const json& c : v) saida.push_back(carta(c, nome));
+    for (const Pedido& c : v) saida.push_back(carta(c, nome));
     return saida;
 }
 

@@ -16,14 +16,18 @@ struct PedidoInvalido : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-const nlohmann::ordered_json& campo(const nlohmann::ordered_json& pedido, const char* nome);
-std::string texto(const nlohmann::ordered_json& pedido, const char* nome);
-long inteiro(const nlohmann::ordered_json& pedido, const char* nome, long minimo, long maximo);
-bool booleano(const nlohmann::ordered_json& pedido, const char* nome);
-Lado lado(const nlohmann::ordered_json& pedido);
-Carta carta(const nlohmann::ordered_json& valor, const char* nome);
+// A request as read: the plain JSON type, whose objects find and insert keys in logarithmic
+// time. The answers keep their fields in order (ordered_json).
+using Pedido = nlohmann::json;
+
+const Pedido& campo(const Pedido& pedido, const char* nome);
+std::string texto(const Pedido& pedido, const char* nome);
+long inteiro(const Pedido& pedido, const char* nome, long minimo, long maximo);
+bool booleano(const Pedido& pedido, const char* nome);
+Lado lado(const Pedido& pedido);
+Carta carta(const Pedido& valor, const char* nome);
 // A list of cards of one of the sizes allowed.
-std::vector<Carta> cartas(const nlohmann::ordered_json& pedido, const char* nome,
+std::vector<Carta> cartas(const Pedido& pedido, const char* nome,
                           std::initializer_list<std::size_t> tamanhos);
 
 nlohmann::ordered_json paraJson(const std::vector<Carta>& cartas);

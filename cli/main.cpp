@@ -17,9 +17,19 @@ int main(int argc, char** argv) {
         return 2;
     }
     std::ios::sync_with_stdio(false);
+    // A line is kept only up to one byte past the longest request, so that a line without
+    // end can't fill the memory: its answer is the error of a line too long.
     std::string linha;
-    while (std::getline(std::cin, linha)) {
-        std::cout << corvina::cli::responde(linha) << '\n' << std::flush;
+    std::streambuf* entrada = std::cin.rdbuf();
+    for (int c = entrada->sbumpc();; c = entrada->sbumpc()) {
+        if (c == std::char_traits<char>::eof() && linha.empty()) break;
+        if (c == '\n' || c == std::char_traits<char>::eof()) {
+            std::cout << corvina::cli::responde(linha) << '\n' << std::flush;
+            linha.clear();
+            if (c == std::char_traits<char>::eof()) break;
+        } else if (linha.size() <= corvina::cli::kMaiorLinha) {
+            linha.push_back(static_cast<char>(c));
+        }
     }
     return 0;
 }

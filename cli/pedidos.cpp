@@ -99,7 +99,7 @@ json grupos(const Mesa& mesa) {
     return paraJson(lista);
 }
 
-json conta(const json& p, bool soUmaOrdem) {
+json conta(const Pedido& p, bool soUmaOrdem) {
     const Lado l = lado(p);
     Mesa mesa;
     poeMao(mesa, l, cartas(p, "hand", {9, 10}));
@@ -108,7 +108,7 @@ json conta(const json& p, bool soUmaOrdem) {
     return {{"count", n}, {"groups", grupos(mesa)}};
 }
 
-json vale(const json& p) {
+json vale(const Pedido& p) {
     const std::string teste = texto(p, "test");
     const Lado l = lado(p);
     Mesa mesa;
@@ -123,7 +123,7 @@ json vale(const json& p) {
         {"result", teste == "dupla" ? ValeDupla(mesa, 1, 2, l) : ValeDuplaSeparada(mesa, 1, 2, l)}};
 }
 
-json ordena(const json& p) {
+json ordena(const Pedido& p) {
     const std::string fn = texto(p, "fn");
     Mesa mesa;
     if (fn == "ordenar2") {
@@ -142,7 +142,7 @@ json ordena(const json& p) {
     return {{"hand", paraJson(maoDaMesa(mesa, l))}};
 }
 
-json agrupa(const json& p) {
+json agrupa(const Pedido& p) {
     Mesa mesa;
     poeMao(mesa, Lado::Mac, cartas(p, "hand", {9}));
     mesa.qtdJog = kCartasNaMao;
@@ -150,10 +150,10 @@ json agrupa(const json& p) {
     return {{"hand", paraJson(maoDaMesa(mesa, Lado::Mac))}};
 }
 
-json vez(const json& p) {
+json vez(const Pedido& p) {
     const auto mao = cartas(p, "hand", {9});
     const Carta topo = carta(campo(p, "pile"), "pile");
-    const json& monte = campo(p, "stock");
+    const Pedido& monte = campo(p, "stock");
     if (!monte.is_array() || monte.size() > kCartasNoMonte)
         throw PedidoInvalido("\"stock\" must be an array of at most 86 cards");
 
@@ -203,14 +203,14 @@ class SorteDada : public Acaso {
     bool sim_;
 };
 
-json distribuicao(const json& p) {
-    const json& baralho = campo(p, "deck");
+json distribuicao(const Pedido& p) {
+    const Pedido& baralho = campo(p, "deck");
     if (!baralho.is_array() || baralho.size() != kCartasNoJogo)
         throw PedidoInvalido("\"deck\" must hold the 104 ids");
     Embaralhado ids{};
     std::set<long> vistos;
     for (std::size_t i = 0; i < baralho.size(); ++i) {
-        const json& id = baralho[i];
+        const Pedido& id = baralho[i];
         if (!id.is_number_integer() || id.get<long>() < 1 || id.get<long>() > kCartasNoJogo ||
             !vistos.insert(id.get<long>()).second)
             throw PedidoInvalido("\"deck\" must hold each id 1..104 once");
@@ -231,7 +231,7 @@ json distribuicao(const json& p) {
             {"sortePercent", r.sortePercent ? json(*r.sortePercent) : json(nullptr)}};
 }
 
-json autojogo(const json& p) {
+json autojogo(const Pedido& p) {
     const auto semente = static_cast<std::uint64_t>(inteiro(p, "seed", 0, INT64_MAX));
     const long partidas = inteiro(p, "matches", 0, 1000000);
     const ResumoAutojogo r = autojoga(semente, partidas);
@@ -247,7 +247,7 @@ json autojogo(const json& p) {
 }
 
 // One press of the sort button on a hand; a win is reported with the hand as it won.
-json botaoOrdenar(const json& p) {
+json botaoOrdenar(const Pedido& p) {
     const auto mao = cartas(p, "hand", {9, 10});
     AcasoSemente acaso(1);
     VistaNula vista;
@@ -289,7 +289,7 @@ json botaoOrdenar(const json& p) {
 }
 
 // A value of the store: its text, or a number written as text.
-std::string textoDoRegistro(const json& jogador, const char* nome) {
+std::string textoDoRegistro(const Pedido& jogador, const char* nome) {
     const auto it = jogador.find(nome);
     if (it == jogador.end() || it->is_null()) return "";
     if (it->is_string()) return it->get<std::string>();
@@ -297,12 +297,12 @@ std::string textoDoRegistro(const json& jogador, const char* nome) {
     throw PedidoInvalido(std::string("\"") + nome + "\" must be a whole number or a text");
 }
 
-json hallDaFama(const json& p) {
-    const json& lista = campo(p, "jogadores");
+json hallDaFama(const Pedido& p) {
+    const Pedido& lista = campo(p, "jogadores");
     if (!lista.is_array() || lista.size() > static_cast<std::size_t>(kMaxJogadores))
         throw PedidoInvalido("\"jogadores\" must be an array of at most 50 players");
     std::vector<JogadorDoHall> jogadores;
-    for (const json& j : lista) {
+    for (const Pedido& j : lista) {
         if (!j.is_object()) throw PedidoInvalido("each player is an object");
         const std::string nome = texto(j, "nome");
         if (nome.empty()) throw PedidoInvalido("a player of the list has a name");
@@ -321,7 +321,7 @@ json hallDaFama(const json& p) {
     return {{"linhas", linhas}};
 }
 
-json atende(const json& p) {
+json atende(const Pedido& p) {
     if (!p.is_object()) throw PedidoInvalido("a request is a JSON object");
     const std::string op = texto(p, "op");
     if (op == "count") return conta(p, false);
@@ -346,6 +346,9 @@ json atende(const json& p) {
 
 namespace {
 // Whatever a text holds, the answer is valid JSON: bytes that are not UTF-8 become U+FFFD.
+inline constexpr int kMaiorProfundidade = 16;
+inline constexpr std::size_t kMaisChaves = 4096;
+
 std::string escreve(const json& resposta) {
     return resposta.dump(-1, ' ', false, json::error_handler_t::replace);
 }
@@ -356,9 +359,31 @@ std::string erro(const std::string& texto) {
 } // namespace
 
 std::string responde(std::string_view linha) {
-    json pedido;
+    if (linha.size() > kMaiorLinha)
+        return erro("request too long: at most " + std::to_string(kMaiorLinha) + " bytes a line");
+    Pedido pedido;
+    // The parser's own limits are none: depth and keys are counted as it goes, and it stops
+    // at the first excess.
+    int profundidade = 0;
+    std::size_t chaves = 0;
+    const char* excesso = nullptr;
+    const Pedido::parser_callback_t vigia = [&](int, Pedido::parse_event_t evento, Pedido&) {
+        if (evento == Pedido::parse_event_t::object_start ||
+            evento == Pedido::parse_event_t::array_start) {
+            if (++profundidade > kMaiorProfundidade) excesso = "request nested too deeply";
+        } else if (evento == Pedido::parse_event_t::object_end ||
+                   evento == Pedido::parse_event_t::array_end) {
+            --profundidade;
+        } else if (evento == Pedido::parse_event_t::key && ++chaves > kMaisChaves) {
+            excesso = "request with too many keys";
+        }
+        if (excesso) throw PedidoInvalido(excesso);
+        return true;
+    };
     try {
-        pedido = json::parse(linha);
+        pedido = Pedido::parse(linha, vigia);
+    } catch (const PedidoInvalido& e) {
+        return erro(e.what());
     } catch (const json::parse_error& e) {
         // Not the parser's own words: they quote the bytes read, which may not be UTF-8.
         return erro("invalid JSON at byte " + std::to_string(e.byte));

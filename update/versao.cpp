@@ -24,15 +24,25 @@ Versao versaoDoPrograma() {
     return {CORVINA_VERSAO_MAJOR, CORVINA_VERSAO_MINOR, CORVINA_VERSAO_REVISAO};
 }
 
+namespace {
+// Appended piece by piece: GCC 12 warns falsely (-Wrestrict) on "." + std::to_string(n).
+std::string comPontos(std::initializer_list<int> partes) {
+    std::string t;
+    for (const int n : partes) {
+        if (!t.empty()) t.push_back('.');
+        t.append(std::to_string(n));
+    }
+    return t;
+}
+} // namespace
+
 std::string versaoParaChecagem(Versao v) {
-    return std::to_string(v.major) + "." + std::to_string(v.minor) + "." +
-           std::to_string(v.revisao);
+    return comPontos({v.major, v.minor, v.revisao});
 }
 
 std::string versaoParaUsuario(Versao v) {
-    std::string t = std::to_string(v.major) + "." + std::to_string(v.minor);
-    if (v.revisao != 0) t += "." + std::to_string(v.revisao);
-    return t;
+    return v.revisao != 0 ? comPontos({v.major, v.minor, v.revisao})
+                          : comPontos({v.major, v.minor});
 }
 
 bool MaiorVersion(std::string_view vLocal, std::string_view vRemota) {

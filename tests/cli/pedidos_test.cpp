@@ -130,5 +130,23 @@ TEST(Distribuicao, DealsPositionsInOrderAndReportsTheLuckAsked) {
               "\"deck\" must hold each id 1..104 once");
 }
 
+TEST(Limites, OversizedRequestsAreRefusedWithTheirReason) {
+    std::string chaves = R"({"op":"count")";
+    for (int i = 0; i < 60000; ++i) chaves += ",\"k" + std::to_string(i) + "\":0";
+    chaves += "}";
+    const struct {
+        std::string pedido, erro;
+    } casos[] = {
+        {chaves, "request with too many keys"},
+        {std::string(17, '[') + std::string(17, ']'), "request nested too deeply"},
+        {std::string(1024 * 1024 + 1, ' '), "request too long: at most 1048576 bytes a line"},
+    };
+    for (const auto& c : casos)
+        EXPECT_EQ(json::parse(responde(c.pedido))["error"], c.erro) << c.pedido.substr(0, 40);
+    // Within the limits, a request far wider than any real one is still read.
+    EXPECT_EQ(json::parse(responde(std::string(16, '[') + std::string(16, ']')))["error"],
+              "a request is a JSON object");
+}
+
 } // namespace
 } // namespace corvina::cli

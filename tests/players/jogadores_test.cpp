@@ -49,7 +49,8 @@ struct Jogadores : testing::Test {
 TEST_F(Jogadores, TheListEndsAtItsFirstGapAndHoldsFifty) {
     lista({"Ana", "", "Caio"});
     EXPECT_EQ(listaGuardada(), std::vector<std::string>{"Ana"});
-    for (int n = 1; n <= 51; ++n) a.grava(chaveBase(), ajuste::jogador(n), "J" + std::to_string(n));
+    for (int n = 1; n <= 51; ++n)
+        a.grava(chaveBase(), ajuste::jogador(n), std::string("J").append(std::to_string(n)));
     EXPECT_EQ(listaGuardada().size(), 50u);
 }
 
@@ -139,7 +140,8 @@ TEST_F(Jogadores, DeletingClosesTheGapAndKeepsTheRecord) {
 }
 
 TEST_F(Jogadores, TheRegisterCommandIsOffAtFiftyAndTheLastDeletionAsksForAPlayer) {
-    for (int n = 1; n <= 50; ++n) a.grava(chaveBase(), ajuste::jogador(n), "J" + std::to_string(n));
+    for (int n = 1; n <= 50; ++n)
+        a.grava(chaveBase(), ajuste::jogador(n), std::string("J").append(std::to_string(n)));
     EscolhaDeJogador j = janela();
     j.carrega(false);
     EXPECT_FALSE(j.podeCadastrar());
