@@ -2,10 +2,13 @@
 
 #include <QFile>
 #include <QSettings>
+#include <cerrno>
 #include <cstdio>
+#include <sys/stat.h>
 
 #include "core/ajustes.h"
 #include "players/arquivo_regular.h"
+#include "players/ini.h"
 #include "players/lugar_do_ajuste.h"
 #include "players/qt/pastas.h"
 
@@ -14,6 +17,40 @@ namespace corvina {
 namespace {
 // Fifty players and the records of everyone ever deleted stay far below this.
 inline constexpr std::size_t kMaiorArquivo = 1024 * 1024;
+
+// The file read and written by our own hand: values are texts, and none is ever turned into
+// one of Qt's serialized types.
+bool leFormato(QIODevice& dispositivo, QSettings::SettingsMap& mapa) {
+    const QByteArray conteudo = dispositivo.read(kMaiorArquivo + 1);
+    if (conteudo.size() > static_cast<qsizetype>(kMaiorArquivo)) return false;
+    for (const auto& [chave, valor] :
+         leIni(std::string_view(conteudo.constData(), conteudo.size())))
+        mapa.insert(QString::fromStdString(chave), QString::fromStdString(valor));
+    return true;
+}
+
+bool gravaFormato(QIODevice& dispositivo, const QSettings::SettingsMap& mapa) {
+    ValoresIni valores;
+    for (auto it = mapa.cbegin(); it != mapa.cend(); ++it)
+        valores[it.key().toStdString()] = it.value().toString().toStdString();
+    const std::string texto = escreveIni(valores);
+    return dispositivo.write(texto.data(), static_cast<qint64>(texto.size())) ==
+           static_cast<qint64>(texto.size());
+}
+
+QSettings::Format formatoDeTexto() {
+    static const QSettings::Format formato =
+        QSettings::registerFormat("ini", leFormato, gravaFormato);
+    return formato;
+}
+
+// Whether the file may be written: absent, or a regular file. A pipe or a device put at its
+// name while the game runs would hold the writing up for ever.
+bool podeGravar(const QString& arquivo) {
+    struct stat st {};
+    return ::lstat(QFile::encodeName(arquivo).constData(), &st) != 0 ? errno == ENOENT
+                                                                     : S_ISREG(st.st_mode);
+}
 
 QString caminho(const std::string& chave, const std::string& nome) {
     const LugarDoAjuste l = lugarDoAjuste(chave, nome);
@@ -34,7 +71,7 @@ bool poeDeLado(const QString& arquivo) {
 
 Settings::Settings() : Settings(arquivoDeAjustes()) {}
 
-Settings::Settings(const QString& arquivoIni) {
+Settings::Settings(const QString& arquivoIni) : arquivo_(arquivoIni) {
     const ArquivoLido lido = leArquivoRegular(arquivoIni.toStdString(), kMaiorArquivo);
     switch (lido.situacao) {
     case SituacaoDoArquivo::NaoRegular:
@@ -48,11 +85,10 @@ Settings::Settings(const QString& arquivoIni) {
     default:
         break;
     }
-    s_ = std::make_unique<QSettings>(arquivoIni, QSettings::IniFormat);
+    s_ = std::make_unique<QSettings>(arquivoIni, formatoDeTexto());
     if (s_->status() == QSettings::FormatError) {
         s_.reset();
-        if (poeDeLado(arquivoIni))
-            s_ = std::make_unique<QSettings>(arquivoIni, QSettings::IniFormat);
+        if (poeDeLado(arquivoIni)) s_ = std::make_unique<QSettings>(arquivoIni, formatoDeTexto());
     }
 }
 
@@ -60,13 +96,24 @@ Settings::~Settings() = default;
 
 std::string Settings::le(const std::string& chave, const std::string& nome,
                          const std::string& padrao) {
-    if (!s_) return soNestaVez_.le(chave, nome, padrao);
-    const std::string valor = s_->value(caminho(chave, nome)).toString().toStdString();
+    const QString c = caminho(chave, nome);
+    const std::string valor = (s_ ? s_->value(c).toString() : soNestaVez_.value(c)).toStdString();
     return valor.empty() ? padraoDeLeitura(padrao) : valor;
 }
 
 bool Settings::grava(const std::string& chave, const std::string& nome, const std::string& valor) {
-    if (!s_) return soNestaVez_.grava(chave, nome, valor);
+    if (s_ && !podeGravar(arquivo_)) {
+        std::fprintf(stderr,
+                     "corvina: %s is no longer a regular file; settings last for this run only\n",
+                     qPrintable(arquivo_));
+        // What was stored stays readable for the rest of the run.
+        for (const QString& k : s_->allKeys()) soNestaVez_[k] = s_->value(k).toString();
+        s_.reset();
+    }
+    if (!s_) {
+        soNestaVez_[caminho(chave, nome)] = QString::fromStdString(valor);
+        return true;
+    }
     s_->setValue(caminho(chave, nome), QString::fromStdString(valor));
     s_->sync();
     return s_->status() == QSettings::NoError;

@@ -2,12 +2,12 @@
 // The one owner of the per-user store: text values under keys, as the game reads and writes
 // them. Nothing else touches QSettings.
 
+#include <QMap>
 #include <QString>
 #include <memory>
 #include <string>
 
 #include "core/armazem.h"
-#include "core/armazem_memoria.h"
 
 class QSettings;
 
@@ -35,8 +35,9 @@ class Settings : public Armazem {
     bool persistente() const { return s_ != nullptr; }
 
   private:
+    QString arquivo_;
     std::unique_ptr<QSettings> s_;
-    ArmazemMemoria soNestaVez_;
+    QMap<QString, QString> soNestaVez_; // by the same paths as in the file
 };
 
 } // namespace corvina

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QFileInfo>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <fstream>
 #include <iterator>
@@ -135,6 +136,66 @@ TEST_F(SettingsTest, APipeIsNeverOpenedAndAHugeFileIsMovedAside) {
     EXPECT_EQ(QFileInfo(arquivo() + ".danificado").size(), 3 << 20)
         << "nothing a person had is lost";
     ASSERT_TRUE(s.grava(chaveBase(), "Velocidade", "3"));
+}
+
+TEST_F(SettingsTest, APipeSwappedInWhileTheGameRunsIsNeverWritten) {
+    Settings s(arquivo());
+    ASSERT_TRUE(s.grava(chaveBase(), "TipoCarta", "7"));
+    QFile::remove(arquivo());
+    ASSERT_EQ(::mkfifo(arquivo().toLocal8Bit().constData(), 0600), 0);
+    s.grava(chaveBase(), "Velocidade", "3"); // would block for ever on the pipe
+    EXPECT_FALSE(s.persistente());
+    EXPECT_EQ(s.le(chaveBase(), "Velocidade", "6"), "3");
+    EXPECT_EQ(s.le(chaveBase(), "TipoCarta", "4"), "7") << "what was stored stays for the run";
+    EXPECT_FALSE(QFileInfo(arquivo()).isFile());
+}
+
+// Every value is a text, whatever it looks like; what Qt itself wrote reads the same, so no
+// store of an earlier version is lost.
+TEST_F(SettingsTest, ValuesAreTextsAndQtsOwnFilesReadTheSame) {
+    const std::string valores[] = {"@Variant(\\0\\0\\0\\x7f)",
+                                   "@@dois",
+                                   "@",
+                                   " com brancos ",
+                                   "a, b; c=d",
+                                   "aspas \" e \\ barra",
+                                   "linha\nquebra\r\tfim",
+                                   std::string("\x01"
+                                               "a\x7f"
+                                               "f",
+                                               5),
+                                   "Zé d'Água Œ 😀",
+                                   ""};
+    {
+        Settings s(arquivo());
+        int n = 0;
+        for (const std::string& v : valores) s.grava(chaveBase(), ajuste::jogador(++n), v);
+    }
+    QSettings qt(pasta.filePath("qt.ini"), QSettings::IniFormat);
+    int n = 0;
+    for (const std::string& v : valores)
+        qt.setValue(QString("corvina/jogador%1").arg(++n), QString::fromStdString(v));
+    qt.sync();
+    Settings nossa(arquivo()), deQt(pasta.filePath("qt.ini"));
+    n = 0;
+    for (const std::string& v : valores) {
+        ++n;
+        EXPECT_EQ(nossa.le(chaveBase(), ajuste::jogador(n), "?"), v.empty() ? "?" : v) << v;
+        EXPECT_EQ(deQt.le(chaveBase(), ajuste::jogador(n), "?"), v.empty() ? "?" : v) << v;
+    }
+}
+
+// A list that claims 2^31-1 entries, in the form Qt would deserialize: read as the text it is.
+TEST_F(SettingsTest, ASerializedValueIsNeverDeserialized) {
+    QFile f(arquivo());
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    f.write("[corvina]\njogador1=@Variant(\\0\\0\\0\\v\\x7f\\xff\\xff\\xff)\nvelocidade=9\n");
+    f.close();
+    Settings s(arquivo());
+    const std::string lido = s.le(chaveBase(), "Jogador1", "");
+    EXPECT_EQ(lido.rfind("@Variant(", 0), 0u) << "the text itself, escapes read as escapes";
+    EXPECT_EQ(lido.back(), ')');
+    EXPECT_EQ(s.le(chaveBase(), "Velocidade", "6"), "9");
 }
 
 } // namespace
