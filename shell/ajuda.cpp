@@ -1,16 +1,17 @@
 #include "shell/ajuda.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
 #include <QProcess>
+
+#include "players/qt/pastas.h"
 
 namespace corvina {
 
 bool iniciaAjuda() {
-    const QString programa = QCoreApplication::applicationDirPath() + "/corvinahlp";
+    const QString programa = PastaPrograma() + "/corvinahlp";
     const QFileInfo info(programa);
     if (!info.isFile() || !info.isExecutable()) return false;
-    return QProcess::startDetached(programa, {}, QCoreApplication::applicationDirPath());
+    return QProcess::startDetached(programa, {}, PastaPrograma());
 }
 
 } // namespace corvina

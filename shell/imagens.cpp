@@ -9,6 +9,8 @@
 #include <QPainter>
 #include <cstdio>
 
+#include "players/qt/pastas.h"
+
 namespace corvina {
 
 namespace {
@@ -22,7 +24,7 @@ const QSize kBotoes[] = {{126, 30}, {121, 30}, {121, 30}, {122, 30}, {118, 30}, 
 } // namespace
 
 QString pastaDeImagens() {
-    const QString programa = QCoreApplication::applicationDirPath();
+    const QString programa = PastaPrograma();
     QStringList candidatas{programa + "/assets", programa + "/" + CORVINA_DADOS_INSTALADOS};
     // The sources serve only a program of the build tree: an installed game that lost a file
     // must say so, not borrow it.

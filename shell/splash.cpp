@@ -1,9 +1,6 @@
 #include "shell/splash.h"
 
-#include <QGuiApplication>
 #include <QPainter>
-#include <QScreen>
-#include <QWindow>
 
 namespace corvina {
 
@@ -21,21 +18,6 @@ void Splash::paintEvent(QPaintEvent*) {
     p.setFont(f);
     p.setPen(QColor(246, 228, 164));
     p.drawText(QRect(434, 18, 39, 17), Qt::AlignRight | Qt::AlignVCenter, versao_); // Label4
-}
-
-void CentraJanela(QWidget& janela) {
-    const QScreen* tela = janela.screen() ? janela.screen() : QGuiApplication::primaryScreen();
-    if (!tela) return;
-    const QRect area = tela->availableGeometry();
-    janela.move(area.center() - QPoint(janela.width() / 2, janela.height() / 2));
-}
-
-} // namespace corvina
-
-namespace corvina {
-
-void moveJanela(QWidget& janela) {
-    if (QWindow* w = janela.windowHandle()) w->startSystemMove();
 }
 
 } // namespace corvina

@@ -3,6 +3,8 @@
 
 #include <QWidget>
 
+#include "players/qt/lugar_da_janela.h"
+
 namespace corvina {
 
 class Splash : public QWidget {
@@ -16,12 +18,5 @@ class Splash : public QWidget {
     const QPixmap& figura_;
     QString versao_;
 };
-
-// Centred on the screen it stands on.
-void CentraJanela(QWidget& janela);
-
-// Lets the window system drag a window that has no title bar, while the left button is held
-// on its handle.
-void moveJanela(QWidget& janela);
 
 } // namespace corvina

@@ -2,6 +2,10 @@
 
 namespace corvina {
 
+namespace {
+inline constexpr std::size_t kMaiorTroca = 1 << 20;
+} // namespace
+
 std::string campo(std::string_view texto, std::string_view delimitador, int n) {
     if (delimitador.empty() || n < 1) return {};
     std::string t(texto);
@@ -22,10 +26,11 @@ std::string troca(std::string_view texto, std::string_view procurado, std::strin
     std::string t(texto);
     // The replacement would be found again for ever.
     if (procurado.empty() || novo.find(procurado) != std::string_view::npos) return t;
-    for (std::size_t at = t.find(procurado); at != std::string::npos; at = t.find(procurado, at)) {
+    // Each turn looks again from the start, so that an occurrence made by a replacement and
+    // the text before it is replaced too. A text that grows past any title stops the loop.
+    for (std::size_t at = t.find(procurado); at != std::string::npos && t.size() <= kMaiorTroca;
+         at = t.find(procurado))
         t.replace(at, procurado.size(), novo);
-        at += novo.size();
-    }
     return t;
 }
 

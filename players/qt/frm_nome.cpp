@@ -8,6 +8,7 @@
 #include "players/qt/caixa_do_sistema.h"
 #include "players/qt/frm_novo_jogador.h"
 #include "players/qt/janelas_figuras.h"
+#include "players/qt/lugar_da_janela.h"
 
 namespace corvina {
 
@@ -62,17 +63,24 @@ FrmNome::FrmNome(QWidget* dono, Module1& modulo, Armazem& armazem, Som* som, boo
     label8_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     check4_ = new QCheckBox(this);
     check4_->setObjectName("Check4");
-    check4_->setGeometry(emPixels(840, 2910, 195 + 60, 210 + 60));
-    check4_->setCursor(Qt::PointingHandCursor);
+    check4_->setGeometry(emPixels(840, 2910, 195, 210));
+    check4_->setStyleSheet("QCheckBox::indicator { width: 12px; height: 12px; }");
     const auto alterna = [this] {
         escolha_.alternaAssistido();
         mostra();
     };
     connect(check4_, &QCheckBox::clicked, this, alterna);
-    comando("Label12", "Modo assistido:Informa o nº de trincas formadas",
-            emPixels(1095, 2835, 4470, 255), alterna, 11, false);
-    comando("Label13", "Habilita o botão \"Auto ordenar cartas\"", emPixels(1095, 3030, 4470, 255),
-            alterna, 11, false);
+    // Clickable, but not commands: no hand over them. Set a little tighter, so that the second
+    // line fits its narrower place.
+    for (Comando* c : {comando("Label12", "Modo assistido:Informa o nº de trincas formadas",
+                               emPixels(1095, 2835, 4470, 255), alterna, 11, false),
+                       comando("Label13", "Habilita o botão \"Auto ordenar cartas\"",
+                               emPixels(1095, 3030, 3015, 255), alterna, 11, false)}) {
+        c->setCursor(Qt::ArrowCursor);
+        QFont f = c->font();
+        f.setLetterSpacing(QFont::AbsoluteSpacing, -0.3);
+        c->setFont(f);
+    }
     rotulo("Label18", "O Jogo termina quando um lado fizer 4 pontos",
            emPixels(180, 3435, 5655, 225), 11, false, QColor(214, 200, 160), Qt::AlignCenter);
     comando("Label9", "Jogar", emPixels(4725, 3900, 1185, 255), [this] {
@@ -97,7 +105,7 @@ FrmNome::FrmNome(QWidget* dono, Module1& modulo, Armazem& armazem, Som* som, boo
     label14_->setVisible(!cancelavel);
     mostra();
     vigiaTeclas();
-    centraNaTela();
+    CentraJanela(*this);
 }
 
 void FrmNome::mostra() {

@@ -4,6 +4,7 @@
 
 #include "players/qt/frm_sim_nao.h"
 #include "players/qt/janelas_figuras.h"
+#include "players/qt/lugar_da_janela.h"
 
 namespace corvina {
 
@@ -14,8 +15,9 @@ FrmNovoJogador::FrmNovoJogador(QWidget* dono, Module1& modulo, Armazem& armazem,
             {[this](const std::string& m, const std::string& t) { return SimNao(this, m, t); },
              std::move(adicionaNaLista)}) {
     setObjectName("FrmNovoJogador");
-    rotulo("Label5", "Novo Jogador", emPixels(225, 180, 5550, 345), 16, true, QColor(20, 20, 20));
-    alca(rotulo("Label4", "Novo Jogador", emPixels(210, 165, 5550, 345), 16, true,
+    // The dark shadow up and to the left, the light grey heading over it.
+    rotulo("Label5", "Novo Jogador", emPixels(210, 165, 5550, 345), 16, true, QColor(20, 20, 20));
+    alca(rotulo("Label4", "Novo Jogador", emPixels(225, 180, 5550, 345), 16, true,
                 QColor(220, 220, 220)));
     rotulo("Label1", "Digite o seu nome ou apelido:", emPixels(375, 690, 3495, 255));
     text1_ = new QLineEdit(this);
@@ -31,7 +33,7 @@ FrmNovoJogador::FrmNovoJogador(QWidget* dono, Module1& modulo, Armazem& armazem,
     comando("Label2", "Cancelar", emPixels(1905, 1530, 1380, 225), [this] {
         reject();
     })->setAlignment(Qt::AlignCenter);
-    centraNaTela();
+    CentraJanela(*this);
     text1_->setFocus();
 }
 

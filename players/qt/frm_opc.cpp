@@ -6,6 +6,7 @@
 #include "core/ajustes.h"
 #include "players/opcoes.h"
 #include "players/qt/janelas_figuras.h"
+#include "players/qt/lugar_da_janela.h"
 
 namespace corvina {
 
@@ -23,7 +24,6 @@ FrmOpc::FrmOpc(QWidget* dono, Module1& modulo, Armazem& armazem)
         c->setGeometry(lugar);
         c->setStyleSheet(kEstiloCaixa);
         c->setChecked(marcada);
-        c->setCursor(Qt::PointingHandCursor);
         return c;
     };
     check1_ = caixa("Check1", "Tocar som", emPixels(510, 1065, 1455 + 600, 255), modulo.tocarSom);
@@ -39,7 +39,6 @@ FrmOpc::FrmOpc(QWidget* dono, Module1& modulo, Armazem& armazem)
     hscroll1_->setRange(kVelocidadeMinima, kVelocidadeMaxima);
     hscroll1_->setPageStep(1);
     hscroll1_->setValue(modulo.velocidade);
-    hscroll1_->setCursor(Qt::PointingHandCursor);
     rotulo("Label2", "< Mais rápido", emPixels(510, 2475, 1500, 255), 11);
     rotulo("Label3", "Mais lento >", emPixels(3585, 2475, 1620, 255), 11, false,
            QColor(240, 236, 220), Qt::AlignRight | Qt::AlignVCenter);
@@ -49,7 +48,7 @@ FrmOpc::FrmOpc(QWidget* dono, Module1& modulo, Armazem& armazem)
     comando("Label5", "Cancelar", emPixels(2295, 3105, 1515, 300), [this] {
         reject();
     })->setAlignment(Qt::AlignCenter);
-    centraNoDono();
+    centraNoDono(*this);
 }
 
 void FrmOpc::ok() {

@@ -1,7 +1,10 @@
 #include "players/qt/frm_placar.h"
 
+#include <QMouseEvent>
+
 #include "core/textos.h"
 #include "players/qt/janelas_figuras.h"
+#include "players/qt/lugar_da_janela.h"
 
 namespace corvina {
 
@@ -28,7 +31,7 @@ FrmPlacar::FrmPlacar(QWidget* dono, const Module1& modulo, const Placar& placar)
     timer1_.setInterval(kPiscaMs);
     connect(&timer1_, &QTimer::timeout, this, [this] { pisca(); });
     if (placar.pisca) timer1_.start();
-    centraNoDono();
+    centraNoDono(*this);
 }
 
 void FrmPlacar::pisca() {
@@ -36,8 +39,9 @@ void FrmPlacar::pisca() {
     for (QLabel* l : {label3_, label4_, label5_, label6_}) l->setVisible(aceso_);
 }
 
-void FrmPlacar::mouseMoveEvent(QMouseEvent*) {
-    label8_->setStyleSheet("color: rgb(0,0,0);"); // and it stays black
+void FrmPlacar::mouseMoveEvent(QMouseEvent* e) {
+    // Only over the bare window, not over its labels; and it stays black.
+    if (!childAt(e->position().toPoint())) label8_->setStyleSheet("color: rgb(0,0,0);");
 }
 
 } // namespace corvina

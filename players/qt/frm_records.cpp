@@ -5,6 +5,7 @@
 #include "core/textos.h"
 #include "players/qt/frm_sim_nao.h"
 #include "players/qt/janelas_figuras.h"
+#include "players/qt/lugar_da_janela.h"
 #include "players/textos_jogadores.h"
 
 namespace corvina {
@@ -40,7 +41,7 @@ FrmRecords::FrmRecords(QWidget* dono, const Module1& modulo, Armazem& armazem, S
     comando("Image4", "", emPixels(180, 4185, 1125, 315), [this] { zera(); });
     monta();
     vigiaTeclas();
-    centraNaTela();
+    CentraJanela(*this);
 }
 
 void FrmRecords::monta() {

@@ -3,6 +3,7 @@
 #include "players/qt/caixa_do_sistema.h"
 #include "players/qt/janela_de_figura.h"
 #include "players/qt/janelas_figuras.h"
+#include "players/qt/lugar_da_janela.h"
 
 namespace corvina {
 
@@ -28,7 +29,7 @@ class FrmSimNao : public JanelaDeFigura {
             responde(false);
         })->setAlignment(Qt::AlignCenter);
         vigiaTeclas();
-        centraNaTela();
+        CentraJanela(*this);
     }
     bool resposta = false;
 

@@ -3,6 +3,7 @@
 #include "core/ajustes.h"
 #include "core/textos.h"
 #include "players/qt/janelas_figuras.h"
+#include "players/qt/lugar_da_janela.h"
 #include "players/textos_jogadores.h"
 
 namespace corvina {
@@ -18,7 +19,7 @@ FrmTipos::FrmTipos(QWidget* dono, Module1& modulo, Som* som)
                 [this, i] { escolhe(i); });
     }
     vigiaTeclas();
-    centraNoDono();
+    centraNoDono(*this);
 }
 
 void FrmTipos::escolhe(int tipo) {

@@ -1,12 +1,11 @@
 #include "players/qt/janela_de_figura.h"
 
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QScreen>
 #include <QTimer>
-#include <QWindow>
+
+#include "players/qt/lugar_da_janela.h"
 
 namespace corvina {
 
@@ -90,17 +89,6 @@ void JanelaDeFigura::alca(QWidget* parte) {
     parte->installEventFilter(this);
 }
 
-void JanelaDeFigura::centraNaTela() {
-    const QScreen* tela = screen() ? screen() : QGuiApplication::primaryScreen();
-    if (tela) move(tela->availableGeometry().center() - QPoint(width() / 2, height() / 2));
-}
-
-void JanelaDeFigura::centraNoDono() {
-    if (!parentWidget()) return centraNaTela();
-    const QRect dono = parentWidget()->window()->frameGeometry();
-    move(dono.center() - QPoint(width() / 2, height() / 2));
-}
-
 void JanelaDeFigura::vigiaTeclas() {
     for (QWidget* w : findChildren<QWidget*>()) w->installEventFilter(this);
 }
@@ -127,7 +115,7 @@ bool JanelaDeFigura::eventFilter(QObject* alvo, QEvent* e) {
         return tecla(static_cast<QKeyEvent*>(e)->key());
     if (alvo == alca_ && e->type() == QEvent::MouseButtonPress &&
         static_cast<QMouseEvent*>(e)->button() == Qt::LeftButton) {
-        if (QWindow* w = windowHandle()) w->startSystemMove();
+        moveJanela(*this);
         return true;
     }
     return QDialog::eventFilter(alvo, e);

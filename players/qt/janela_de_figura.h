@@ -36,8 +36,6 @@ class JanelaDeFigura : public QDialog {
                      std::function<void()> aoClicar, int px = 12, bool negrito = true);
     // Holding the left button on this part moves the window.
     void alca(QWidget* parte);
-    void centraNaTela();
-    void centraNoDono();
     // Keys reach this before any part of the window; true when it was taken.
     virtual bool tecla(int /*key*/) { return false; }
     // Once the parts exist: the keys of each pass through tecla().

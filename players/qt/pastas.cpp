@@ -1,13 +1,20 @@
 #include "players/qt/pastas.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
 
 #include "core/ajustes.h"
+#include "core/caminhos.h"
 #include "players/pasta_privada.h"
 
 namespace corvina {
+
+QString PastaPrograma() {
+    return QString::fromStdString(
+        semSeparadorFinal(QCoreApplication::applicationDirPath().toStdString()));
+}
 
 QString pastaDeDados() {
     return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);

@@ -5,6 +5,9 @@
 
 namespace corvina {
 
+// The folder of the running program, with no separator at its end.
+QString PastaPrograma();
+
 // The per-user data folder, for highcor.dat: the program's own folder may not be writable.
 QString pastaDeDados();
 

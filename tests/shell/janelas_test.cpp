@@ -8,6 +8,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QSlider>
+#include <QStyle>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -16,10 +17,15 @@
 #include "apoio/janela_modal.h"
 #include "apoio/som_gravado.h"
 #include "core/ajustes.h"
+#include "core/armazem_memoria.h"
 #include "core/novojogo.h"
 #include "core/pecas.h"
 #include "machine/autojogador.h"
+#include "players/qt/frm_nome.h"
+#include "players/qt/frm_novo_jogador.h"
+#include "players/qt/frm_opc.h"
 #include "players/qt/frm_placar.h"
+#include "players/qt/frm_records.h"
 #include "players/qt/frm_sim_nao.h"
 #include "players/qt/settings.h"
 #include "shell/audio/musica_fluidsynth.h"
@@ -28,6 +34,8 @@
 #include "shell/janelas_qt.h"
 #include "shell/ondas_qt.h"
 #include "table/comandos.h"
+#include "update/qt/frm_sobre.h"
+#include "update/qt/frm_up.h"
 
 namespace corvina {
 namespace {
@@ -279,6 +287,54 @@ TEST_F(Mesa, EveryToolbarWordClicksWhenSoundIsOnAndTheAboutPictureOpensItsWindow
         clica(w, "Command1");
     });
     QTest::mouseClick(&janela, Qt::LeftButton, {}, QPoint(690, 40));
+}
+
+// Each text of a window, at the default font size, inside its own place and off the window's
+// wooden border.
+void confereTextos(QWidget* janela) {
+    constexpr int kBorda = 7; // the wood, its gold line and a pixel of air
+    const QRect feltro = janela->rect().adjusted(kBorda, kBorda, -kBorda, -kBorda);
+    for (const QLabel* l : janela->findChildren<QLabel*>()) {
+        if (l->text().isEmpty() || l->wordWrap() || l->objectName().isEmpty()) continue;
+        const QFontMetrics fm(l->font());
+        const QRect texto = QStyle::alignedRect(Qt::LeftToRight, l->alignment(),
+                                                QSize(fm.horizontalAdvance(l->text()), fm.height()),
+                                                l->contentsRect());
+        EXPECT_TRUE(l->contentsRect().contains(texto))
+            << janela->objectName().toStdString() << "." << l->objectName().toStdString() << " \""
+            << l->text().toStdString() << "\" needs " << texto.width() << " px, has "
+            << l->contentsRect().width();
+        const QRect naJanela(l->mapTo(janela, texto.topLeft()), texto.size());
+        EXPECT_TRUE(feltro.contains(naJanela))
+            << janela->objectName().toStdString() << "." << l->objectName().toStdString()
+            << " reaches the border";
+    }
+    for (const QCheckBox* c : janela->findChildren<QCheckBox*>()) {
+        if (c->text().isEmpty() || c->geometry().top() >= janela->height()) continue;
+        EXPECT_LE(c->sizeHint().width(), c->width()) << c->objectName().toStdString();
+    }
+}
+
+TEST(Textos, EveryTextFitsItsPlace) {
+    Module1 m;
+    m.nomeJogador = "Maria Helena"; // twelve letters, as long as a name can be
+    ArmazemMemoria a;
+    a.grava(chaveBase(), ajuste::jogador(1), m.nomeJogador);
+    FrmNome nome(nullptr, m, a, nullptr, true);
+    FrmNovoJogador novo(nullptr, m, a, [](const std::string&) {});
+    FrmOpc opc(nullptr, m, a);
+    FrmPlacar placar(nullptr, m, {"Parabéns, você foi o vencedor", 4, 3, false});
+    FrmRecords records(nullptr, m, a, nullptr);
+    FrmSobre sobre(nullptr, versaoDoPrograma());
+    FrmUp up(nullptr, "https://127.0.0.1:1/x.deb", "");
+    for (QWidget* w :
+         std::initializer_list<QWidget*>{&nome, &novo, &opc, &placar, &records, &sobre, &up})
+        confereTextos(w);
+    quandoAbrir("FrmSimNao", [](QWidget* w) {
+        confereTextos(w);
+        QTest::keyClick(w, Qt::Key_Escape);
+    });
+    SimNao(nullptr, "Deseja realmente zerar o Hall da Fama?", "Corvina");
 }
 
 TEST(FrmSimNao, EnterAnswersYesAndEscapeNo) {

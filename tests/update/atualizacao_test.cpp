@@ -9,7 +9,6 @@
 #include <unistd.h>
 
 #include "update/assinatura.h"
-#include "update/barra_de_progresso.h"
 #include "update/campos.h"
 #include "update/controle_download.h"
 #include "update/resposta.h"
@@ -38,6 +37,7 @@ TEST(Campo, FieldsBetweenDelimitersAddedWhereMissing) {
     for (const auto& c : casos)
         EXPECT_EQ(campo(c.texto, c.delim, c.n), c.campo) << c.texto << " " << c.n;
     EXPECT_EQ(troca("Corvina do Sul", " ", "%20"), "Corvina%20do%20Sul");
+    EXPECT_EQ(troca("abb", "ab", "a"), "a") << "a replacement that makes a new occurrence";
     EXPECT_EQ(troca("aXa", "a", "ba"), "aXa")
         << "a replacement holding what it replaces is refused";
 }
@@ -116,23 +116,6 @@ TEST(ControleDeDownload, ThePercentageFollowsTheBytesAndTheWatchdogTheSilence) {
     e.inicia(20, 8);
     EXPECT_FALSE(e.expirou(27)) << "a later read ends by the watchdog, not at once";
     EXPECT_TRUE(e.expirou(28.5));
-}
-
-TEST(BarraDeProgresso, TheBlocksFollowThePercentageWithTheDivisorOf98) {
-    constexpr int kLargura = 289; // 4335 twips
-    const struct {
-        long valor;
-        int percentual, fim;
-    } casos[] = {{0, 0, 12},    {5, 5, 12},      {50, 50, 147},
-                 {98, 98, 283}, {100, 100, 283}, {150, 100, 283}};
-    for (const auto& c : casos) {
-        EXPECT_EQ(percentualDaBarra(c.valor, 100, 0), c.percentual) << c.valor;
-        const int fim = fimDoPreenchimento(kLargura, c.percentual);
-        EXPECT_EQ(fim, c.fim) << c.valor;
-        EXPECT_EQ((fim - kBordaInterna) % kPasso == 0 || fim == 12, true) << "whole steps";
-    }
-    EXPECT_EQ(tinta({49, 106, 197}), (Cor{170, 193, 231}));
-    EXPECT_EQ(tinta({255, 255, 255}), (Cor{255, 255, 255}));
 }
 
 // The release script signs with OpenSSL; the game checks with libsodium: one signature.

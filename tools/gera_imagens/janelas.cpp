@@ -150,6 +150,16 @@ QImage janelaPlacar() {
     QPainter p(&img);
     p.setRenderHint(QPainter::Antialiasing, true);
     caixa(p, QRectF(12, 56, 321, 76));
+    // The plate under "OK" (Label8): a bronze of middle brightness, on which the word reads
+    // both in its first light grey and in the black it turns under the mouse (about 3.7:1
+    // and 4.3:1).
+    const QRectF ok(250, 138, 85, 21);
+    QLinearGradient bronze(ok.topLeft(), ok.bottomLeft());
+    bronze.setColorAt(0, QColor(164, 118, 44));
+    bronze.setColorAt(1, QColor(138, 96, 30));
+    p.setPen(QPen(kOuro, 1));
+    p.setBrush(bronze);
+    p.drawRoundedRect(ok.adjusted(0.5, 0.5, -0.5, -0.5), 5, 5);
     return img;
 }
 

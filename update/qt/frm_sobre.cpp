@@ -11,6 +11,7 @@
 #include "players/qt/caixa_do_sistema.h"
 #include "players/qt/janela_de_figura.h"
 #include "players/qt/janelas_figuras.h"
+#include "players/qt/lugar_da_janela.h"
 #include "update/campos.h"
 #include "update/enderecos.h"
 #include "update/qt/frm_up.h"
@@ -41,12 +42,14 @@ FrmSobre::FrmSobre(QWidget* dono, Versao versao)
         QDesktopServices::openUrl(QUrl(QString(enderecos::kSite) + enderecos::kFaleConosco));
     });
     label7->setObjectName("Label7");
-    // The link ends where it ends on the window's design; its text may reach further left.
-    label7->setGeometry(248, 135, 120, 17);
+    // The links stand side by side, right-aligned, clear of each other and of the border: their
+    // texts are wider than the places designed for them.
+    label7->setGeometry(244, 135, 122, 17);
     label7->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     auto* label10 = new Comando("Atualizar", this, [this] { atualizar(); });
     label10->setObjectName("Label10");
-    label10->setGeometry(376, 135, 50, 17);
+    label10->setGeometry(370, 135, 52, 17);
+    label10->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     for (QLabel* link : {label7, label10}) {
         QFont f = link->font();
         f.setPixelSize(11);
@@ -60,7 +63,7 @@ FrmSobre::FrmSobre(QWidget* dono, Versao versao)
     abreFrmUp = [this](const QString& link, const QString& assinatura) {
         FrmUp(this, link, assinatura).exec();
     };
-    if (dono) move(dono->window()->frameGeometry().center() - rect().center());
+    if (dono) centraNoDono(*this);
 }
 
 QString FrmSobre::GetUpdate() {

@@ -13,6 +13,7 @@
 
 #include "core/ajustes.h"
 #include "players/qt/caixa_do_sistema.h"
+#include "players/qt/lugar_da_janela.h"
 #include "players/qt/pastas.h"
 #include "update/assinatura.h"
 #include "update/enderecos.h"
@@ -48,7 +49,7 @@ FrmUp::FrmUp(QWidget* dono, QString link, QString assinatura)
     label1->setGeometry(11, 8, 316, 17);
     auto* label2 = new QLabel("Fazendo o download da versão mais recente...", this);
     label2->setObjectName("Label2");
-    label2->setGeometry(11, 27, 266, 17);
+    label2->setGeometry(11, 27, 290, 17); // wider than designed, so that the text fits
     barra_ = new ProgressBarXP(this);
     barra_->setObjectName("ProgressBarXP1");
     barra_->setGeometry(8, 50, 289, 14);
@@ -61,7 +62,7 @@ FrmUp::FrmUp(QWidget* dono, QString link, QString assinatura)
         std::fflush(nullptr);
         std::_Exit(kSaidaDoUpdate); // without the closing steps: the settings are not written
     };
-    if (dono) move(dono->window()->frameGeometry().center() - rect().center());
+    if (dono) centraNoDono(*this);
 }
 
 void FrmUp::showEvent(QShowEvent* e) {

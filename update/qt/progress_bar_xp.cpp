@@ -36,13 +36,16 @@ void ProgressBarXP::paintEvent(QPaintEvent*) {
     const int largura = x - kBordaDoDesenho;
     if (largura > 0) {
         // Light to full colour in the six rows from row 3, full from 8 to h - 8, and back to
-        // light in the six rows from h - 10.
-        for (int i = 0; i < kLinhasDoGradiente; ++i) {
-            const double f = static_cast<double>(i) / (kLinhasDoGradiente - 1);
-            p.fillRect(kBordaDoDesenho, 3 + i, largura, 1, mistura(clara, cor_, f));
-            p.fillRect(kBordaDoDesenho, h - 10 + i, largura, 1, mistura(cor_, clara, f));
-        }
+        // light in the six rows from h - 10, in this order: on a low bar the three overlap,
+        // and the last one drawn shows.
+        const auto gradiente = [&](int linha, QColor de, QColor ate) {
+            for (int i = 0; i < kLinhasDoGradiente; ++i)
+                p.fillRect(kBordaDoDesenho, linha + i, largura, 1,
+                           mistura(de, ate, static_cast<double>(i) / (kLinhasDoGradiente - 1)));
+        };
+        gradiente(3, clara, cor_);
         if (h - 16 > 0) p.fillRect(kBordaDoDesenho, 8, largura, h - 16, cor_);
+        gradiente(h - 10, cor_, clara);
         // The gaps between the blocks.
         for (int vao = kBordaInterna + kBloco + 1; vao < x; vao += kPasso)
             p.fillRect(vao, 0, kVao, h, Qt::white);
