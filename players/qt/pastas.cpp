@@ -31,11 +31,15 @@ QString pastaPessoal() {
 }
 
 QString pastaTemporaria() {
-    // Chosen once: a fresh folder of our own must serve the whole run.
-    static const QString pasta = QString::fromStdString(escolhePastaPrivada(
-        qEnvironmentVariable("TEMP").toStdString(),
-        qEnvironmentVariable("XDG_RUNTIME_DIR").toStdString(), QDir::tempPath().toStdString()));
-    return pasta;
+    const std::string escolhida =
+        escolhePastaPrivada(qEnvironmentVariable("TEMP").toStdString(),
+                            qEnvironmentVariable("XDG_RUNTIME_DIR").toStdString(), "");
+    if (!escolhida.empty()) return QString::fromStdString(escolhida);
+    // A fresh folder of our own, made at most once a run.
+    static QString nossa;
+    if (nossa.isEmpty() || !pastaSoMinha(nossa.toStdString()))
+        nossa = QString::fromStdString(escolhePastaPrivada("", "", QDir::tempPath().toStdString()));
+    return nossa;
 }
 
 } // namespace corvina

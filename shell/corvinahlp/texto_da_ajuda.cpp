@@ -37,6 +37,8 @@ Você fica com dez cartas.</li>
 <li><b>Descartar:</b> solte uma carta acima da fileira. Ela vai para o descarte, e então a
 máquina joga.</li>
 </ul>
+<p><b>Atenção:</b> quando você tem dez cartas, a carta sob o mouse sobe; um simples clique nela
+já a descarta. Para só mudar uma carta de lugar, arraste-a ao longo da fileira.</p>
 <p>Antes de descartar é preciso comprar. A máquina só pega o seu descarte se ele melhorar a mão
 dela; por isso pense bem no que joga fora.</p>
 

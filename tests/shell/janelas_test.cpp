@@ -29,6 +29,7 @@
 #include "players/qt/frm_sim_nao.h"
 #include "players/qt/settings.h"
 #include "shell/audio/musica_fluidsynth.h"
+#include "shell/corvinahlp/janela_da_ajuda.h"
 #include "shell/imagens.h"
 #include "shell/janela_mesa.h"
 #include "shell/janelas_qt.h"
@@ -335,6 +336,17 @@ TEST(Textos, EveryTextFitsItsPlace) {
         QTest::keyClick(w, Qt::Key_Escape);
     });
     SimNao(nullptr, "Deseja realmente zerar o Hall da Fama?", "Corvina");
+}
+
+TEST(Ajuda, EscapeOrCtrlQClosesIt) {
+    for (const QKeyCombination tecla :
+         {QKeyCombination(Qt::Key_Escape), QKeyCombination(Qt::ControlModifier, Qt::Key_Q)}) {
+        JanelaDaAjuda ajuda;
+        ajuda.show();
+        QApplication::setActiveWindow(&ajuda);
+        QTest::keyClick(&ajuda, tecla.key(), tecla.keyboardModifiers());
+        EXPECT_FALSE(ajuda.isVisible()) << QKeySequence(tecla).toString().toStdString();
+    }
 }
 
 TEST(FrmSimNao, EnterAnswersYesAndEscapeNo) {

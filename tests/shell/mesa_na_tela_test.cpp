@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QBitmap>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QTemporaryDir>
 
@@ -54,6 +55,16 @@ struct MesaNaTela {
         move(p);
         envia(QEvent::MouseButtonPress, p, Qt::LeftButton, Qt::LeftButton);
         envia(QEvent::MouseButtonRelease, p, Qt::LeftButton, Qt::NoButton);
+    }
+    void tecla(Qt::Key k, Qt::KeyboardModifiers m = Qt::NoModifier) {
+        QKeyEvent e(QEvent::KeyPress, k, m);
+        QApplication::sendEvent(&janela, &e);
+    }
+    // Whether the machine's row shows its faces.
+    bool macAberta() const {
+        for (int i = 1; i <= 9; ++i)
+            if (vista.cena()[peca::cm(i)].Picture >= kPrimeiroVerso) return false;
+        return true;
     }
     // Over the card, press, up above the row in steps, let go: the discard.
     void descarta(int casa) {
@@ -111,10 +122,59 @@ TEST(MesaNaTela, AWholeHandIsPlayedWithTheMouse) {
     EXPECT_TRUE(t.janela.grab().save(arquivo)) << arquivo.toStdString();
 }
 
+TEST(MesaNaTela, TheHintTheCountsAndTheToolbarsLightAnswerTheRealKeysAndMouse) {
+    MesaNaTela t;
+    for (const bool aberta : {true, false}) {
+        t.tecla(Qt::Key_F1, Qt::ControlModifier);
+        EXPECT_EQ(t.macAberta(), aberta) << "Ctrl+F1 turns the machine's cards";
+    }
+    t.tecla(Qt::Key_F1);
+    t.tecla(Qt::Key_F1, Qt::ShiftModifier);
+    EXPECT_FALSE(t.macAberta()) << "F1 alone, or with Shift, does nothing";
+
+    const QRect contagem(21 + 114, 123 + 311, 20, 15); // the player's count, on the panel
+    const QImage sem = t.janela.grab(contagem).toImage();
+    t.tecla(Qt::Key_F9);
+    EXPECT_TRUE(t.jogo.mesa.mostraContagem);
+    EXPECT_NE(t.janela.grab(contagem).toImage(), sem) << "F9 shows the count";
+    t.tecla(Qt::Key_F9);
+    EXPECT_EQ(t.janela.grab(contagem).toImage(), sem) << "and hides it again";
+
+    // The light follows the mouse from one toolbar word to the next, and goes out off it.
+    const struct {
+        QPoint ponto;
+        int aceso;
+    } passos[] = {{{80, 95}, 1}, {{210, 95}, 2}, {{340, 95}, 3}, {{400, 400}, 0}};
+    QImage antes = t.janela.grab().toImage();
+    for (const auto& p : passos) {
+        t.move(p.ponto);
+        EXPECT_EQ(t.jogo.mesa.botaoAtivo, p.aceso) << p.ponto.x();
+        const QImage agora = t.janela.grab().toImage();
+        EXPECT_NE(agora, antes) << "the light moved on the picture";
+        antes = agora;
+    }
+}
+
+TEST(MesaNaTela, ANewMatchWithTenCardsInHandDealsNineAgain) {
+    MesaNaTela t;
+    t.jogo.modulo.pontosMac = 2;
+    t.clica(t.janela.retanguloDa(peca::kCostas2).center());
+    ASSERT_EQ(t.jogo.mesa.qtdJog, 10);
+    t.tecla(Qt::Key_F3);
+    EXPECT_EQ(t.jogo.mesa.qtdJog, 9);
+    EXPECT_EQ(t.jogo.modulo.pontosMac, 0);
+    EXPECT_FALSE(t.vista.cena()[peca::cj(10)].Visible) << "no tenth card left on the table";
+    EXPECT_TRUE(t.vista.cena()[peca::kCostas2].Enabled) << "the new hand waits for a draw";
+    t.descarta(1);
+    EXPECT_EQ(t.jogo.mesa.qtdJog, 9) << "and a discard is refused until then";
+}
+
 TEST(MesaNaTela, ClosingWritesTheSettingsAndTheLastPlayer) {
     MesaNaTela t;
     t.jogo.modulo.velocidade = 11;
+    t.tecla(Qt::Key_F8);
     t.janela.close();
+    EXPECT_EQ(t.settings.le(chaveBase(), "TipoCarta", ""), "5") << "the back changed by F8";
     EXPECT_EQ(t.settings.le(chaveBase(), "Velocidade", ""), "11");
     EXPECT_EQ(t.settings.le(chaveBase(), "UltimoJogador", ""), "Teste");
     EXPECT_EQ(t.settings.le(chaveBase(), "AnimarCartas", ""), "True");

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -46,19 +47,33 @@ TEST_F(Download, TheTextIsTheLastLineWithItsLineEnd) {
     EXPECT_EQ(dl.GetConteudo(servidor.url("/nao-ha")), "") << "a 404 is no answer";
 }
 
-TEST_F(Download, PlainHttpIsNeverFetched) {
+TEST_F(Download, PlainHttpIsNeverFetchedNorReachedByARedirect) {
     DL dl;
     const int antes = servidor.pedidos;
     EXPECT_EQ(dl.GetConteudo(QString(servidor.url("/x")).replace("https:", "http:")), "");
     EXPECT_EQ(dl.Download("http://127.0.0.1:1/x.deb", destino("x.deb"), {}), Situacao::Falhou);
     EXPECT_EQ(servidor.pedidos, antes);
+
+    servidor.caminhos["/para-http"] = Resposta::so(
+        Resposta::Tipo::Redireciona, QString(servidor.url("/bom")).replace("https:", "http:"));
+    servidor.caminhos["/bom"] = Resposta::texto("!*!a!*!1.0.0!*!u!*!");
+    DL redirecionado;
+    EXPECT_EQ(redirecionado.Download(servidor.url("/para-http"), destino("r.deb"), {}, "Id", 2),
+              Situacao::Falhou);
+    EXPECT_FALSE(QFile::exists(destino("r.deb")));
+    EXPECT_EQ(servidor.pedidos, antes + 1) << "the plain address was never asked";
 }
 
 TEST_F(Download, ASilentServerIsGivenUpAndTheInstanceStaysGivenUp) {
     servidor.caminhos["/mudo"] = Resposta::so(Resposta::Tipo::Silencio);
     servidor.caminhos["/bom"] = Resposta::texto("!*!a!*!1.0.0!*!u!*!");
     DL dl;
-    EXPECT_EQ(dl.GetConteudo(servidor.url("/mudo"), "Id", 0.4), "");
+    QElapsedTimer relogio;
+    relogio.start();
+    EXPECT_EQ(dl.GetConteudo(servidor.url("/mudo"), "Id", 1), "");
+    // Neither before its second of silence, nor much after it: the watchdog looks every tenth.
+    EXPECT_GE(relogio.elapsed(), 1000);
+    EXPECT_LT(relogio.elapsed(), 2000);
     EXPECT_TRUE(dl.abortado());
     EXPECT_EQ(dl.GetConteudo(servidor.url("/bom"), "Id", 0.4), "")
         << "after a give-up the same instance fails by the watchdog";
@@ -159,6 +174,13 @@ TEST_F(Download, AnEndlessAnswerIsCutShort) {
     servidor.caminhos["/sem-fim"] = Resposta::semFimDe(64 * 1024 * 1024);
     DL dl;
     EXPECT_EQ(dl.GetConteudo(servidor.url("/sem-fim"), "Id", 5), "");
+    DL arquivo;
+    arquivo.maiorArquivo = 256 * 1024; // the game's limit is that of a signed package
+    EXPECT_EQ(arquivo.Download(servidor.url("/sem-fim"), destino("x.deb"), {}, "Id", 5),
+              Situacao::Falhou);
+    EXPECT_FALSE(QFile::exists(destino("x.deb")));
+    EXPECT_EQ(QDir(pasta.path()).entryList(QDir::Files | QDir::Hidden), QStringList())
+        << "nothing of it stays on the disk";
 }
 
 // The bar's blocks, read off a rendered picture: the first block from the start, the last

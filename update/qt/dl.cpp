@@ -13,7 +13,6 @@
 
 #include "players/arquivo_regular.h"
 #include "players/qt/pastas.h"
-#include "update/assinatura.h"
 #include "update/resposta.h"
 
 namespace corvina {
@@ -121,7 +120,7 @@ Situacao DL::Download(const QString& url, const QString& destino,
                       const std::function<void(int)>& objprogress, const QString& sID,
                       double timeout) {
     controle_.inicia(agora(), timeout);
-    inicia(url, sID, destino, static_cast<qint64>(kMaiorInstalador));
+    inicia(url, sID, destino, maiorArquivo);
     if (!aguarda(objprogress)) return Situacao::Falhou;
     if (objprogress) objprogress(controle_.percentual());
     return controle_.situacao();

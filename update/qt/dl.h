@@ -8,6 +8,7 @@
 #include <functional>
 #include <map>
 
+#include "update/assinatura.h"
 #include "update/controle_download.h"
 
 class QEventLoop;
@@ -38,6 +39,8 @@ class DL : public QObject {
 
     // A text answer longer than this is no answer of an update server.
     static constexpr qint64 kMaiorTexto = 64 * 1024;
+    // A file longer than this is no installer: the signature check would refuse it anyway.
+    qint64 maiorArquivo = static_cast<qint64>(kMaiorInstalador);
 
   private:
     // Starts the read of `url` into `arquivo`; the file is renamed to `destino` at the end.
