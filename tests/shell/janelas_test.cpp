@@ -293,7 +293,7 @@ TEST_F(Mesa, EveryToolbarWordClicksWhenSoundIsOnAndTheAboutPictureOpensItsWindow
 // Each text of a window, at the default font size, inside its own place and off the window's
 // wooden border.
 void confereTextos(QWidget* janela) {
-    constexpr int kBorda = 7; // the wood, its gold line and a pixel of air
+    constexpr int kBorda = 9; // the wood, its gold line and some air
     const QRect feltro = janela->rect().adjusted(kBorda, kBorda, -kBorda, -kBorda);
     for (const QLabel* l : janela->findChildren<QLabel*>()) {
         if (l->text().isEmpty() || l->wordWrap() || l->objectName().isEmpty()) continue;

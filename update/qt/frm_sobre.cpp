@@ -44,11 +44,11 @@ FrmSobre::FrmSobre(QWidget* dono, Versao versao)
     label7->setObjectName("Label7");
     // The links stand side by side, right-aligned, clear of each other and of the border: their
     // texts are wider than the places designed for them.
-    label7->setGeometry(244, 135, 122, 17);
+    label7->setGeometry(238, 135, 122, 17);
     label7->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     auto* label10 = new Comando("Atualizar", this, [this] { atualizar(); });
     label10->setObjectName("Label10");
-    label10->setGeometry(370, 135, 52, 17);
+    label10->setGeometry(364, 135, 52, 17);
     label10->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     for (QLabel* link : {label7, label10}) {
         QFont f = link->font();
