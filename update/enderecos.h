@@ -16,5 +16,6 @@ inline constexpr const char* kChavePublica = CORVINA_CHAVE_PUBLICA;
 // The privileged helper that checks the package again, as root, and installs it; started
 // through pkexec with the package's path and its signature.
 inline constexpr const char* kAjudante = CORVINA_AJUDANTE;
+inline constexpr const char* kPkexec = "/usr/bin/pkexec";
 
 } // namespace corvina::enderecos

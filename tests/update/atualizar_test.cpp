@@ -99,8 +99,9 @@ TEST_F(Atualizacao, ASignedPackageIsHandedToTheInstallerAndTheRunEnds) {
     EXPECT_EQ(frmUp("/c.deb", chave.assina(pacote), &destino),
               "O Corvina será fechado para que a atualização seja feita");
     ASSERT_EQ(instaladores.size(), 1);
-    EXPECT_EQ(instaladores[0],
-              QString("pkexec %1 %2 %3").arg(CORVINA_AJUDANTE, destino, chave.assina(pacote)))
+    EXPECT_EQ(
+        instaladores[0],
+        QString("/usr/bin/pkexec %1 %2 %3").arg(CORVINA_AJUDANTE, destino, chave.assina(pacote)))
         << "the helper checks again what it installs";
     EXPECT_EQ(fins, 1);
     EXPECT_TRUE(destino.startsWith(casa.path() + "/Corvina-")) << destino.toStdString();

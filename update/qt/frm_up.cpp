@@ -93,7 +93,7 @@ void FrmUp::baixa() {
         return falha(texto::kSemDownload);
     }
     avisoDoSistema(this, QString("O ") + kTitulo + texto::kSeraFechado);
-    iniciaInstalador("pkexec", {enderecos::kAjudante, destino_, assinatura_});
+    iniciaInstalador(enderecos::kPkexec, {enderecos::kAjudante, destino_, assinatura_});
     encerra();
     ocupada_ = false;
     accept(); // only where the end was replaced
