@@ -25,7 +25,7 @@ Versao versaoDoPrograma() {
 }
 
 namespace {
-// Appended piece by piece: GCC 12 warns falsely (-Wrestrict) on "." + std::to_string(n).
+// The numbers joined by points.
 std::string comPontos(std::initializer_list<int> partes) {
     std::string t;
     for (const int n : partes) {
