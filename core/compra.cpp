@@ -94,6 +94,7 @@ void Discartado_Click(Jogo& jogo) {
     m.qtdJog = kCasaCompra;
     m.jogValor[kCasaCompra] = m.discarteValor;
     m.jogNaipe[kCasaCompra] = m.discarteNaipe;
+    jogo.historico.toma(Lado::Jog, cartaNa(m.jogValor, m.jogNaipe, kCasaCompra));
     fechaCompra(jogo);
     escreveTrincas(jogo);
 }

@@ -2,6 +2,7 @@
 // The game at the table: its state and what it reaches the outside through.
 
 #include "core/acaso.h"
+#include "core/historico.h"
 #include "core/mesa.h"
 #include "core/module1.h"
 #include "core/vista_mesa.h"
@@ -13,6 +14,7 @@ struct Jogo {
 
     Mesa mesa;
     Module1 modulo;
+    Historico historico; // what this hand showed in the open
     VistaMesa& vista;
     Acaso& acaso;
     // From the player's discard to the end of the machine's turn nothing may change the hands;

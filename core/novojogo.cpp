@@ -47,6 +47,7 @@ void novojogo(Jogo& jogo) {
     v.copiaFigura(peca::kDiscartado, peca::kVazio);
     v.copiaFigura(peca::kDiscartado2, peca::kVazio);
     jogo.modulo.qtdDescarte = 0;
+    jogo.historico.limpa();
     distribue(jogo);
     v.apresentacartasdojog(1, jogo.mesa.qtdJog);
     v.apresentacartasdamac(1, 0);

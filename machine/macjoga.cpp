@@ -28,6 +28,7 @@ void pegaDoDescarte(Jogo& jogo, int16 melhorCarta) {
     m.qtdMac = kCasaCompra;
     m.macValor[kCasaCompra] = m.discarteValor;
     m.macNaipe[kCasaCompra] = m.discarteNaipe;
+    jogo.historico.toma(Lado::Mac, cartaNa(m.macValor, m.macNaipe, kCasaCompra));
     v.apresentacartasdamac(8, 0);
     macdiscarta(jogo, melhorCarta);
 }
@@ -103,6 +104,7 @@ void macdiscarta(Jogo& jogo, int16 carta) {
     // The hand changes only now that the flight is over.
     m.discarteValor = m.macValor[carta];
     m.discarteNaipe = m.macNaipe[carta];
+    jogo.historico.descarta(Carta{m.discarteValor, m.discarteNaipe});
     --m.qtdMac;
     for (int s = carta; s <= m.qtdMac; ++s) {
         m.macValor[s] = m.macValor[s + 1];

@@ -10,6 +10,7 @@
 #include "core/ativacao.h"
 #include "core/compra.h"
 #include "core/descarte.h"
+#include "core/visao_do_nivel.h"
 #include "core/vista_nula.h"
 #include "machine/autojogador.h"
 
@@ -77,6 +78,28 @@ void confereEntreVezes(const Jogo& jogo, const VistaVigia& vista) {
     }
     ASSERT_LT(jogo.modulo.pontosJog, kPontosDaPartida);
     ASSERT_LT(jogo.modulo.pontosMac, kPontosDaPartida);
+
+    // The pile is what was thrown less what was taken back: the history misses nothing.
+    Contagem naMesa{};
+    for (const Carta c : jogo.historico.descartes) ++naMesa[(c.naipe - 1) * kValores + c.valor - 1];
+    for (const auto& tomadas : jogo.historico.tomadas)
+        for (const Carta c : tomadas) --naMesa[(c.naipe - 1) * kValores + c.valor - 1];
+    ASSERT_EQ(naMesa, resto) << "the discards less the takes are the pile";
+    // Each side's view holds its own hand and what the other showed, nothing else.
+    for (const Lado lado : {Lado::Jog, Lado::Mac}) {
+        const VisaoDoNivel v = visaoDe(jogo, lado);
+        const Lado outro = lado == Lado::Jog ? Lado::Mac : Lado::Jog;
+        const Mao mao = maoDe(const_cast<Mesa&>(m), lado);
+        ASSERT_EQ(v.mao.size(), static_cast<std::size_t>(mao.qtd));
+        for (int i = 1; i <= mao.qtd; ++i)
+            ASSERT_EQ(v.mao[i - 1], cartaNa(mao.valor, mao.naipe, i));
+        ASSERT_EQ(v.tomadasPeloOutro, jogo.historico.tomadasPor(outro));
+        ASSERT_EQ(v.topo.has_value(), jogo.modulo.qtdDescarte > 0) << "between turns it lies free";
+        if (v.topo) {
+            ASSERT_EQ(*v.topo, jogo.historico.descartes.back());
+        }
+        ASSERT_EQ(v.monte, m.qtdBaralho);
+    }
 }
 
 // Random draws and random discards: every path of the player's turn, good and bad.

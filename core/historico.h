@@ -1,0 +1,39 @@
+#pragma once
+// What both sides have seen of a hand in the open: every discard, in order, and the cards each
+// side took from the pile. Kept so that a player of the machine can know what a person at the
+// table would know, and no more.
+
+#include <array>
+#include <vector>
+
+#include "core/carta.h"
+#include "core/lado.h"
+
+namespace corvina {
+
+struct Historico {
+    std::vector<Carta> descartes;                // both sides, in the order they were thrown
+    std::array<std::vector<Carta>, 2> tomadas{}; // by side: what each took from the pile
+    bool topoLivre = false; // the last card thrown lies on the pile, not taken back
+
+    void descarta(Carta c) {
+        descartes.push_back(c);
+        topoLivre = true;
+    }
+    void toma(Lado lado, Carta c) {
+        tomadasPor(lado).push_back(c);
+        topoLivre = false;
+    }
+
+    std::vector<Carta>& tomadasPor(Lado lado) { return tomadas[lado == Lado::Jog ? 0 : 1]; }
+    const std::vector<Carta>& tomadasPor(Lado lado) const {
+        return tomadas[lado == Lado::Jog ? 0 : 1];
+    }
+    void limpa() {
+        descartes.clear();
+        for (auto& t : tomadas) t.clear();
+        topoLivre = false;
+    }
+};
+
+} // namespace corvina
