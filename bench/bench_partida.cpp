@@ -7,9 +7,10 @@
 #include <vector>
 
 #include "core/jogo.h"
+#include "core/vez_da_maquina.h"
 #include "core/vista_nula.h"
 #include "machine/autojogador.h"
-#include "machine/macjoga.h"
+#include "machine/classico.h"
 
 namespace corvina {
 namespace {
@@ -40,11 +41,13 @@ void vezDaMaquina(benchmark::State& estado) {
     const auto posicoes = posicoesAoAcaso(1024);
     AcasoSemente acaso(1);
     VistaNula vista;
-    Jogo jogo(vista, acaso);
+    Classico classico;
+    Jogo jogo(vista, acaso, classico);
     std::size_t i = 0;
     for (auto _ : estado) {
         jogo.mesa = posicoes[i];
         jogo.modulo.qtdDescarte = 1;
+        jogo.historico.limpa(); // each position starts a hand's history of its own
         macjoga(jogo);
         benchmark::DoNotOptimize(jogo.mesa.discarteValor);
         i = (i + 1) % posicoes.size();

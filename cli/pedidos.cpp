@@ -5,12 +5,13 @@
 
 #include "cli/json_cartas.h"
 #include "core/distribue.h"
+#include "core/vez_da_maquina.h"
 #include "core/vista_nula.h"
 #include "machine/agrupa_mac.h"
 #include "machine/autojogador.h"
+#include "machine/classico.h"
 #include "machine/conta_grupos.h"
 #include "machine/contagem.h"
-#include "machine/macjoga.h"
 #include "machine/ordenacao.h"
 #include "machine/tentativas.h"
 #include "machine/vale.h"
@@ -159,7 +160,8 @@ json vez(const Pedido& p) {
 
     AcasoSemente acaso(1);
     VistaNula vista;
-    Jogo jogo(vista, acaso);
+    Classico classico;
+    Jogo jogo(vista, acaso, classico);
     Mesa& m = jogo.mesa;
     poeMao(m, Lado::Mac, mao);
     m.qtdJog = kCartasNaMao;
@@ -218,7 +220,8 @@ json distribuicao(const Pedido& p) {
     }
     SorteDada sorte(booleano(p, "sorte"));
     VistaNula vista;
-    Jogo jogo(vista, sorte);
+    Classico classico;
+    Jogo jogo(vista, sorte, classico);
     jogo.modulo.pontosJog = static_cast<int16>(inteiro(p, "pontosJog", 0, kPontosDaPartida - 1));
     jogo.modulo.pontosMac = static_cast<int16>(inteiro(p, "pontosMac", 0, kPontosDaPartida - 1));
     const Reparticao r = reparte(jogo, ids);
@@ -251,7 +254,8 @@ json botaoOrdenar(const Pedido& p) {
     const auto mao = cartas(p, "hand", {9, 10});
     AcasoSemente acaso(1);
     VistaNula vista;
-    Jogo jogo(vista, acaso);
+    Classico classico;
+    Jogo jogo(vista, acaso, classico);
     poeMao(jogo.mesa, Lado::Jog, mao);
     poeMao(jogo.mesa, Lado::Mac, {mao.begin(), mao.begin() + kCartasNaMao});
     jogo.mesa.ordemAuto = static_cast<int16>(inteiro(p, "ordemAuto", 0, 4));

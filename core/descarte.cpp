@@ -8,8 +8,8 @@
 #include "core/pecas.h"
 #include "core/pilha.h"
 #include "core/textos.h"
+#include "core/vez_da_maquina.h"
 #include "machine/contagem.h"
-#include "machine/macjoga.h"
 #include "machine/vale.h"
 
 namespace corvina {

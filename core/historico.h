@@ -14,15 +14,15 @@ namespace corvina {
 struct Historico {
     std::vector<Carta> descartes;                // both sides, in the order they were thrown
     std::array<std::vector<Carta>, 2> tomadas{}; // by side: what each took from the pile
-    bool topoLivre = false; // the last card thrown lies on the pile, not taken back
+    bool topoTomado = false; // the last card thrown was taken back: no top until the next
 
     void descarta(Carta c) {
         descartes.push_back(c);
-        topoLivre = true;
+        topoTomado = false;
     }
     void toma(Lado lado, Carta c) {
         tomadasPor(lado).push_back(c);
-        topoLivre = false;
+        topoTomado = true;
     }
 
     std::vector<Carta>& tomadasPor(Lado lado) { return tomadas[lado == Lado::Jog ? 0 : 1]; }
@@ -32,7 +32,7 @@ struct Historico {
     void limpa() {
         descartes.clear();
         for (auto& t : tomadas) t.clear();
-        topoLivre = false;
+        topoTomado = false;
     }
 };
 

@@ -5,18 +5,20 @@
 #include "core/historico.h"
 #include "core/mesa.h"
 #include "core/module1.h"
+#include "core/nivel.h"
 #include "core/vista_mesa.h"
 
 namespace corvina {
 
 struct Jogo {
-    Jogo(VistaMesa& v, Acaso& a) : vista(v), acaso(a) {}
+    Jogo(VistaMesa& v, Acaso& a, Nivel& n) : vista(v), acaso(a), nivel(n) {}
 
     Mesa mesa;
     Module1 modulo;
     Historico historico; // what this hand showed in the open
     VistaMesa& vista;
     Acaso& acaso;
+    Nivel& nivel; // who plays the machine's seat
     // From the player's discard to the end of the machine's turn nothing may change the hands;
     // commands that would (a sort, a new match) must wait while this is set.
     bool maosEmJogo = false;

@@ -11,7 +11,7 @@ VisaoDoNivel visaoDe(const Jogo& jogo, Lado lado) {
     for (int i = 1; i <= qtd; ++i)
         v.mao.push_back(jog ? cartaNa(m.jogValor, m.jogNaipe, i)
                             : cartaNa(m.macValor, m.macNaipe, i));
-    if (g.qtdDescarte > 0 && jogo.historico.topoLivre)
+    if (g.qtdDescarte > 0 && !jogo.historico.topoTomado)
         v.topo = Carta{m.discarteValor, m.discarteNaipe};
     v.descartes = jogo.historico.descartes;
     v.tomadasPeloOutro = jogo.historico.tomadasPor(jog ? Lado::Mac : Lado::Jog);

@@ -7,9 +7,9 @@
 #include "core/compra.h"
 #include "core/descarte.h"
 #include "core/textos.h"
+#include "core/visao_do_nivel.h"
 #include "core/vista_nula.h"
-#include "machine/contagem.h"
-#include "machine/tentativas.h"
+#include "machine/classico.h"
 
 namespace corvina {
 
@@ -17,40 +17,24 @@ namespace {
 // No hand can last this long: every take of the pile raises a side's count, every other turn
 // spends a card of the stock. Past it something is broken, and the run says so.
 inline constexpr long kTurnosPorMaoNoMaximo = 10000;
-
-// The player's nine cards where the machine's rule looks for them.
-Mesa espelhoDoJogador(const Mesa& m) {
-    Mesa e;
-    e.qtdMac = kCartasNaMao;
-    for (int i = 1; i <= kCartasNaMao; ++i) {
-        e.macValor[i] = m.jogValor[i];
-        e.macNaipe[i] = m.jogNaipe[i];
-    }
-    return e;
-}
 } // namespace
 
-void jogaPeloJogador(Jogo& jogo) {
+void jogaPeloJogador(Jogo& jogo, Nivel& nivel) {
     Mesa& m = jogo.mesa;
     if (m.qtdJog != kCartasNaMao) return;
-    Mesa espelho = espelhoDoJogador(m);
-    Decisao d;
-    if (jogo.modulo.qtdDescarte > 0) {
-        d = decideDescarte(espelho, Carta{m.discarteValor, m.discarteNaipe});
-    } else {
-        d.pontosBase = TemQuantosGrupos(espelho, Lado::Mac);
-    }
-    if (d.pegaDescarte) {
+    if (nivel.pegaDescarte(visaoDe(jogo, Lado::Jog))) {
         Discartado_Click(jogo);
-        descartaJog(jogo, d.descarte.melhorCarta);
+        descartaJog(jogo, nivel.descarte(visaoDe(jogo, Lado::Jog), true));
         return;
     }
     costas2_Click(jogo);
     if (m.qtdJog != kCasaCompra) return; // the stock was spent: a new hand was dealt
-    const Carta comprada = cartaNa(m.jogValor, m.jogNaipe, kCasaCompra);
-    espelho.qtdMac = kCasaCompra;
-    poeCarta(espelho.macValor, espelho.macNaipe, kCasaCompra, comprada);
-    descartaJog(jogo, escolheDescarteAposCompra(espelho, comprada, d.pontosBase));
+    descartaJog(jogo, nivel.descarte(visaoDe(jogo, Lado::Jog), false));
+}
+
+void jogaPeloJogador(Jogo& jogo) {
+    Classico classico;
+    jogaPeloJogador(jogo, classico);
 }
 
 ResumoAutojogo autojoga(std::uint64_t semente, long partidas) {
@@ -58,7 +42,8 @@ ResumoAutojogo autojoga(std::uint64_t semente, long partidas) {
     ResumoAutojogo r;
     AcasoSemente acaso(semente);
     VistaNula vista;
-    Jogo jogo(vista, acaso);
+    Classico maquina, jogador;
+    Jogo jogo(vista, acaso, maquina);
     leConfig(jogo);
     jogo.modulo.tocarSom = false; // nobody listens
     jogo.modulo.nomeJogador = "Autojogo";
@@ -89,7 +74,7 @@ ResumoAutojogo autojoga(std::uint64_t semente, long partidas) {
     while (r.partidas < partidas) {
         if (++turnosNaMao > kTurnosPorMaoNoMaximo)
             throw std::logic_error("a hand of the self-play never ended");
-        jogaPeloJogador(jogo);
+        jogaPeloJogador(jogo, jogador);
     }
     r.trocas = jogo.trocasNaDistribuicao;
     r.segundos = std::chrono::duration<double>(std::chrono::steady_clock::now() - inicio).count();

@@ -9,8 +9,10 @@
 
 namespace corvina {
 
-// One whole turn of the player from nine cards: the draw, the discard, and so the machine's
-// turn inside it. Does nothing unless the player holds nine cards.
+// One whole turn of the player from nine cards, decided by `nivel` from the player's seat: the
+// draw, the discard, and so the machine's turn inside it. Does nothing unless the player holds
+// nine cards. Without a level, Clássico plays the seat.
+void jogaPeloJogador(Jogo& jogo, Nivel& nivel);
 void jogaPeloJogador(Jogo& jogo);
 
 struct ResumoAutojogo {

@@ -8,6 +8,7 @@
 #include <memory>
 
 #include "core/jogo.h"
+#include "machine/classico.h"
 #include "players/highcor.h"
 #include "players/qt/pastas.h"
 #include "players/qt/settings.h"
@@ -32,7 +33,8 @@ struct Programa {
     corvina::MusicaFluidSynth musica;
     corvina::Som som{corvina::pastaDosSons().toStdString(), ondas, musica};
     corvina::AcasoDoRelogio acaso;
-    corvina::Jogo jogo{vista, acaso};
+    corvina::Classico classico;
+    corvina::Jogo jogo{vista, acaso, classico};
     corvina::JanelasQt janelas;
     corvina::JanelaMesa janela{jogo, vista, imagens};
 

@@ -8,11 +8,12 @@
 #include "apoio/maos.h"
 #include "core/jogo.h"
 #include "core/vista_nula.h"
+#include "machine/classico.h"
 
 namespace corvina::teste {
 
 struct JogoDeTeste {
-    explicit JogoDeTeste(std::uint64_t semente = 1) : acaso(semente), jogo(vista, acaso) {
+    explicit JogoDeTeste(std::uint64_t semente = 1) : acaso(semente), jogo(vista, acaso, classico) {
         vista.registra = true;
         jogo.modulo.velocidade = 6;
         jogo.modulo.nomeJogador = "Ana";
@@ -41,6 +42,7 @@ struct JogoDeTeste {
 
     AcasoSemente acaso;
     VistaNula vista;
+    Classico classico;
     Jogo jogo;
 };
 

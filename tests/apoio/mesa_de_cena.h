@@ -8,6 +8,7 @@
 
 #include "apoio/maos.h"
 #include "core/armazem_memoria.h"
+#include "machine/classico.h"
 #include "table/vista_de_cena.h"
 
 namespace corvina::teste {
@@ -40,7 +41,7 @@ class VistaDeCenaQuieta : public VistaDeCena {
 };
 
 struct MesaDeCena {
-    explicit MesaDeCena(std::uint64_t semente = 1) : acaso(semente), jogo(vista, acaso) {
+    explicit MesaDeCena(std::uint64_t semente = 1) : acaso(semente), jogo(vista, acaso, classico) {
         vista.liga(jogo);
         jogo.modulo.velocidade = 6;
         jogo.modulo.animarCartas = true;
@@ -59,6 +60,7 @@ struct MesaDeCena {
 
     AcasoSemente acaso;
     VistaDeCenaQuieta vista;
+    Classico classico;
     Jogo jogo;
 };
 

@@ -6,6 +6,7 @@
 #include "apoio/baralho_roteiro.h"
 #include "apoio/jogo_de_teste.h"
 #include "core/distribue.h"
+#include "machine/classico.h"
 
 namespace corvina {
 namespace {
@@ -96,7 +97,8 @@ TEST_P(ReparteTest, ExchangesOnlyABetterPlayersHand) {
     const CasoTroca& c = GetParam();
     AcasoFixo acaso(c.sorte ? 0.0 : 0.999);
     VistaNula vista;
-    Jogo jogo(vista, acaso);
+    Classico classico;
+    Jogo jogo(vista, acaso, classico);
     jogo.modulo.pontosJog = c.pontosJog;
     jogo.modulo.pontosMac = c.pontosMac;
     const Reparticao r = reparte(jogo, baralhoCom(std::string(c.jog) + " " + c.mac));
@@ -121,7 +123,8 @@ TEST(Reparte, TheRestOfTheDeckIsTheStockFromItsLowEnd) {
     AcasoSemente acaso(3);
     VistaNula vista;
     vista.registra = true;
-    Jogo jogo(vista, acaso);
+    Classico classico;
+    Jogo jogo(vista, acaso, classico);
     const Embaralhado ids = embaralha(acaso);
     reparte(jogo, ids);
     EXPECT_EQ(jogo.mesa.qtdBaralho, kCartasNoMonte);

@@ -12,6 +12,7 @@
 #include "core/finaliza.h"
 #include "core/novojogo.h"
 #include "core/verifica_c.h"
+#include "machine/classico.h"
 
 namespace corvina {
 namespace {
@@ -277,7 +278,8 @@ TEST(NovoJogo, DealtThreeTrincasWinAtOnceAndOnlyForThePlayer) {
                                                 "8/1 8/2 8/3 1/3 2/3 3/3 10/4 11/4 12/4"));
     VistaNula vista;
     vista.registra = true;
-    Jogo jogo(vista, acaso);
+    Classico classico;
+    Jogo jogo(vista, acaso, classico);
     novojogo(jogo);
     EXPECT_EQ(jogo.modulo.pontosJog, 1);
     EXPECT_EQ(jogo.modulo.pontosMac, 0);

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "apoio/jogo_de_teste.h"
+#include "core/vez_da_maquina.h"
 #include "machine/contagem.h"
-#include "machine/macjoga.h"
 #include "machine/tentativas.h"
 
 namespace corvina {

@@ -13,6 +13,7 @@
 #include "core/visao_do_nivel.h"
 #include "core/vista_nula.h"
 #include "machine/autojogador.h"
+#include "machine/classico.h"
 
 namespace corvina {
 namespace {
@@ -123,7 +124,8 @@ TEST_P(PartidasTest, TableStaysSoundThroughWholeMatches) {
     const auto [politica, semente] = GetParam();
     AcasoSemente acaso(semente);
     VistaVigia vista;
-    Jogo jogo(vista, acaso);
+    Classico classico;
+    Jogo jogo(vista, acaso, classico);
     leConfig(jogo);
     jogo.modulo.nomeJogador = "Ana";
     std::mt19937 g(semente);

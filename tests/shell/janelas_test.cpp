@@ -21,6 +21,7 @@
 #include "core/novojogo.h"
 #include "core/pecas.h"
 #include "machine/autojogador.h"
+#include "machine/classico.h"
 #include "players/qt/frm_nome.h"
 #include "players/qt/frm_novo_jogador.h"
 #include "players/qt/frm_opc.h"
@@ -69,7 +70,8 @@ struct Mesa : testing::Test {
     std::string sons = pastaDosSons().toStdString();
     Som som{sons, ondas, midi};
     AcasoSemente acaso{7};
-    Jogo jogo{vista, acaso};
+    Classico classico;
+    Jogo jogo{vista, acaso, classico};
     JanelasQt janelas{jogo, settings, &som, versaoDoPrograma()};
     JanelaMesa janela{jogo, vista, imagens};
 
@@ -389,7 +391,8 @@ TEST(PartidaComSom, AWholeMatchRunsWithSoundAndMusicOnAndNoAudioDevice) {
     MusicaFluidSynth musica;
     Som som(pastaDosSons().toStdString(), ondas, musica);
     AcasoSemente acaso(3);
-    Jogo jogo(vista, acaso);
+    Classico classico;
+    Jogo jogo(vista, acaso, classico);
     vista.liga(jogo);
     vista.som(&som);
     vista.modoDeTeste(true);

@@ -11,6 +11,7 @@
 
 #include "core/ajustes.h"
 #include "core/pecas.h"
+#include "machine/classico.h"
 #include "players/qt/settings.h"
 #include "shell/imagens.h"
 #include "shell/janela_mesa.h"
@@ -25,7 +26,8 @@ struct MesaNaTela {
     Imagens imagens{pastaDeImagens()};
     VistaQt vista{settings};
     AcasoSemente acaso{7};
-    Jogo jogo{vista, acaso};
+    Classico classico;
+    Jogo jogo{vista, acaso, classico};
     JanelaMesa janela{jogo, vista, imagens};
 
     MesaNaTela() {

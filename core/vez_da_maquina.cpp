@@ -1,17 +1,27 @@
-#include "machine/macjoga.h"
+#include "core/vez_da_maquina.h"
 
+#include "core/nivel.h"
 #include "core/novojogo.h"
 #include "core/pecas.h"
 #include "core/pilha.h"
 #include "core/textos.h"
-#include "machine/tentativas.h"
+#include "core/visao_do_nivel.h"
 
 namespace corvina {
 
 namespace {
 inline constexpr int kUltimaCartaDoMonte = 1;
 
-void pegaDoDescarte(Jogo& jogo, int16 melhorCarta) {
+// The seat decides with the short counts of its tries; the flag says so while it does.
+int16 escolheDescarte(Jogo& jogo, bool doDescarte) {
+    jogo.modulo.soTrincas = true;
+    const int16 carta = jogo.nivel.descarte(visaoDe(jogo, Lado::Mac), doDescarte);
+    jogo.modulo.soTrincas = false;
+    // A slot outside the hand throws the card that came in, so the turn always ends.
+    return carta >= 1 && carta <= kCasaCompra ? carta : kCasaCompra;
+}
+
+void pegaDoDescarte(Jogo& jogo) {
     VistaMesa& v = jogo.vista;
     Mesa& m = jogo.mesa;
     if (jogo.modulo.tocarSom) v.tocaSom(som::kCarta3, false);
@@ -30,10 +40,10 @@ void pegaDoDescarte(Jogo& jogo, int16 melhorCarta) {
     m.macNaipe[kCasaCompra] = m.discarteNaipe;
     jogo.historico.toma(Lado::Mac, cartaNa(m.macValor, m.macNaipe, kCasaCompra));
     v.apresentacartasdamac(8, 0);
-    macdiscarta(jogo, melhorCarta);
+    macdiscarta(jogo, escolheDescarte(jogo, true));
 }
 
-void compraDoMonte(Jogo& jogo, int16 pontosBase) {
+void compraDoMonte(Jogo& jogo) {
     VistaMesa& v = jogo.vista;
     Mesa& m = jogo.mesa;
     if (jogo.modulo.tocarSom) v.tocaSom(som::kCarta3, false);
@@ -51,11 +61,7 @@ void compraDoMonte(Jogo& jogo, int16 pontosBase) {
     poeCarta(m.macValor, m.macNaipe, kCasaCompra, comprada);
     --m.qtdBaralho;
     v.apresentacartasdamac(8, 0);
-
-    jogo.modulo.soTrincas = true;
-    const int16 carta = escolheDescarteAposCompra(m, comprada, pontosBase);
-    jogo.modulo.soTrincas = false;
-    macdiscarta(jogo, carta);
+    macdiscarta(jogo, escolheDescarte(jogo, false));
 }
 } // namespace
 
@@ -64,10 +70,10 @@ FimDaVez macjoga(Jogo& jogo) {
     Mesa& m = jogo.mesa;
     v.Habilita(false);
     jogo.modulo.soTrincas = true; // the tries are short counts; the base is a full one
-    const Decisao d = decideDescarte(m, Carta{m.discarteValor, m.discarteNaipe});
+    const bool pega = jogo.nivel.pegaDescarte(visaoDe(jogo, Lado::Mac));
     jogo.modulo.soTrincas = false;
-    if (d.pegaDescarte) {
-        pegaDoDescarte(jogo, d.descarte.melhorCarta);
+    if (pega) {
+        pegaDoDescarte(jogo);
         return FimDaVez::Descartou;
     }
     if (m.qtdBaralho == 0) {
@@ -76,7 +82,7 @@ FimDaVez macjoga(Jogo& jogo) {
         novojogo(jogo);
         return FimDaVez::AcabouBaralho;
     }
-    compraDoMonte(jogo, d.pontosBase);
+    compraDoMonte(jogo);
     return FimDaVez::Descartou;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
-// The machine's turn: take the pile or the stock, then throw one card away.
+// The machine's turn on the table: its seat's player (jogo.nivel) decides whether to take the
+// pile or the stock and what to throw away; this carries it out, with the flights and sounds.
 
 #include "core/jogo.h"
 

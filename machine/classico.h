@@ -1,0 +1,25 @@
+#pragma once
+// Clássico: the machine as it has always played. A new card comes in only where it raises the
+// count of the hand; the pile's top is tried in slots 1..9 rising, a drawn card in 9..1
+// falling, and a card that raises nothing goes back to the pile.
+
+#include "core/mesa.h"
+#include "core/nivel.h"
+
+namespace corvina {
+
+class Classico : public Nivel {
+  public:
+    bool pegaDescarte(const VisaoDoNivel& visao) override;
+    int16 descarte(const VisaoDoNivel& visao, bool doDescarte) override;
+
+  private:
+    // The count of the nine cards before the turn, kept from the draw's decision for the
+    // discard's: both read the same nine cards.
+    int16 pontosBase(const VisaoDoNivel& visao);
+    Mesa mesa_; // the seat's own cards where the count reads them, and nothing else
+    std::array<Carta, kCartasNaMao> baseDe_{};
+    int16 base_ = -1;
+};
+
+} // namespace corvina
