@@ -1,11 +1,14 @@
 #include "cli/pedidos.h"
 
 #include <array>
+#include <map>
+#include <memory>
 #include <set>
 
 #include "cli/json_cartas.h"
 #include "core/distribue.h"
 #include "core/vez_da_maquina.h"
+#include "core/visao_do_nivel.h"
 #include "core/vista_nula.h"
 #include "machine/agrupa_mac.h"
 #include "machine/autojogador.h"
@@ -70,6 +73,11 @@ Requests and answers:
       -> {"matches":N,"hands":..,"handsWonJog":..,"handsWonMac":..,"handsNoWinner":..,
           "exchanges":..,"matchesWonJog":..,"matchesWonMac":..,"seconds":..}
          whole matches, both sides by the machine's rule
+  {"op":"decide","level":"classico","hand":[9 or 10],"pile":"v/n"|null,"drew":"pile"|"stock",
+   "discards":["v/n",...],"opponentTook":["v/n",...],"stock":N,"seed":S}
+      -> {"draw":"pile"|"stock"} with 9 cards; {"discard":"v/n"} with 10, the last of them
+         the card just drawn ("drew" says from where). One decision of a level from what its
+         seat may know; "esperto" and "forte" are named but do not play yet
 
 A request that is not valid JSON, names an unknown op, misses a field, or holds a bad card
 or a hand of the wrong size is answered {"error":"..."}, and the next line is read.
@@ -192,6 +200,49 @@ json vez(const Pedido& p) {
             {"discard", descarte},
             {"hand", paraJson(maoDaMesa(m, Lado::Mac))},
             {"pile", escreveCarta({m.discarteValor, m.discarteNaipe})}};
+}
+
+// The cards of a list field of any length up to `maximo`.
+std::vector<Carta> listaDeCartas(const Pedido& p, const char* nome, std::size_t maximo) {
+    const Pedido& v = campo(p, nome);
+    if (!v.is_array() || v.size() > maximo)
+        throw PedidoInvalido(std::string("\"") + nome + "\" must be an array of at most " +
+                             std::to_string(maximo) + " cards");
+    std::vector<Carta> lista;
+    for (const Pedido& c : v) lista.push_back(carta(c, nome));
+    return lista;
+}
+
+std::unique_ptr<Nivel> nivelPedido(const Pedido& p) {
+    const std::string nome = texto(p, "level");
+    if (nome == "classico") return std::make_unique<Classico>();
+    if (nome == "esperto" || nome == "forte")
+        throw PedidoInvalido("level \"" + nome + "\" does not play yet");
+    throw PedidoInvalido("\"level\" must be \"classico\", \"esperto\" or \"forte\"");
+}
+
+json decide(const Pedido& p) {
+    const std::unique_ptr<Nivel> nivel = nivelPedido(p);
+    VisaoDoNivel v;
+    v.mao = cartas(p, "hand", {kCartasNaMao, kCasaCompra});
+    const Pedido& pilha = campo(p, "pile");
+    if (!pilha.is_null()) v.topo = carta(pilha, "pile");
+    v.descartes = listaDeCartas(p, "discards", kCartasNoJogo);
+    v.tomadasPeloOutro = listaDeCartas(p, "opponentTook", kCartasNoJogo);
+    v.monte = static_cast<int16>(inteiro(p, "stock", 0, kCartasNoMonte));
+    if (p.contains("seed")) inteiro(p, "seed", 0, INT64_MAX); // replays the levels that sample
+    std::map<Carta, int> vistas; // two packs: no card stands three times in one's own sight
+    for (const Carta c : v.mao) ++vistas[c];
+    if (v.topo) ++vistas[*v.topo];
+    for (const auto& [c, n] : vistas)
+        if (n > 2) throw PedidoInvalido("\"" + escreveCarta(c) + "\" stands more than twice");
+    if (v.mao.size() == kCartasNaMao) return {{"draw", nivel->pegaDescarte(v) ? "pile" : "stock"}};
+    const std::string de = texto(p, "drew");
+    if (de != "pile" && de != "stock")
+        throw PedidoInvalido("\"drew\" must be \"pile\" or \"stock\"");
+    int16 casa = nivel->descarte(v, de == "pile");
+    if (casa < 1 || casa > kCasaCompra) casa = kCasaCompra; // as the table treats it
+    return {{"discard", escreveCarta(v.mao[casa - 1])}};
 }
 
 // Answers the shuffle's luck as the request says, whatever it is asked.
@@ -334,6 +385,7 @@ json atende(const Pedido& p) {
     if (op == "sort") return ordena(p);
     if (op == "agrupaMac") return agrupa(p);
     if (op == "turn") return vez(p);
+    if (op == "decide") return decide(p);
     if (op == "deal") return distribuicao(p);
     if (op == "selfplay") return autojogo(p);
     if (op == "sortButton") return botaoOrdenar(p);

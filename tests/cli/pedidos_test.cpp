@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <nlohmann/json.hpp>
+#include <random>
 
 #include "cli/pedidos.h"
 
@@ -84,6 +86,11 @@ INSTANTIATE_TEST_SUITE_P(
         Caso{R"({"op":"hallDaFama","jogadores":[{"nome":"A","saldo":1.5}],"nomeJogador":""})",
              R"({"error":"\"saldo\" must be a whole number or a text"})"},
         Caso{R"({"op":"fly"})", R"({"error":"unknown op \"fly\""})"},
+        Caso{R"({"op":"decide","level":"forte","hand":[],"pile":null})",
+             R"({"error":"level \"forte\" does not play yet"})"},
+        Caso{
+            R"({"op":"decide","level":"classico","hand":["1/1","1/1","1/1","2/2","3/3","4/4","5/1","6/2","7/3"],"pile":null,"discards":[],"opponentTook":[],"stock":5})",
+            R"({"error":"\"1/1\" stands more than twice"})"},
         Caso{R"([1,2])", R"({"error":"a request is a JSON object"})"},
         Caso{R"({"op":"count","side":"Jog","short":false})",
              R"({"error":"missing field \"hand\""})"},
@@ -128,6 +135,37 @@ TEST(Distribuicao, DealsPositionsInOrderAndReportsTheLuckAsked) {
     dobrado["deck"][5] = dobrado["deck"][4];
     EXPECT_EQ(json::parse(responde(dobrado.dump()))["error"],
               "\"deck\" must hold each id 1..104 once");
+}
+
+// Clássico decides from its seat's view exactly what the machine's turn does on the table.
+TEST(Decide, ClassicoFromItsViewIsTheMachinesTurn) {
+    std::mt19937 g(2026);
+    std::vector<std::string> ids;
+    for (int copia = 0; copia < 2; ++copia)
+        for (int n = 1; n <= 4; ++n)
+            for (int v = 1; v <= 13; ++v)
+                ids.push_back(std::to_string(v) + "/" + std::to_string(n));
+    int pegas = 0;
+    for (int caso = 0; caso < 300; ++caso) {
+        std::shuffle(ids.begin(), ids.end(), g);
+        const json mao = std::vector<std::string>(ids.begin(), ids.begin() + 9);
+        const json monte = std::vector<std::string>(ids.begin() + 10, ids.begin() + 30);
+        const json vez = json::parse(responde(
+            json{{"op", "turn"}, {"hand", mao}, {"pile", ids[9]}, {"stock", monte}}.dump()));
+        json pedido = {{"op", "decide"}, {"level", "classico"},  {"hand", mao},
+                       {"pile", ids[9]}, {"discards", {ids[9]}}, {"opponentTook", json::array()},
+                       {"stock", 20},    {"seed", caso}};
+        const json compra = json::parse(responde(pedido.dump()));
+        ASSERT_EQ(compra["draw"], vez["takes"]) << pedido.dump();
+        const bool pega = vez["takes"] == "pile";
+        pegas += pega;
+        pedido["hand"].push_back(pega ? json(ids[9]) : monte.back());
+        pedido["drew"] = vez["takes"];
+        if (pega) pedido["pile"] = nullptr;
+        ASSERT_EQ(json::parse(responde(pedido.dump()))["discard"], vez["pile"]) << pedido.dump();
+    }
+    EXPECT_GT(pegas, 0) << "both ways of the turn were met";
+    EXPECT_LT(pegas, 300);
 }
 
 TEST(Limites, OversizedRequestsAreRefusedWithTheirReason) {
