@@ -16,7 +16,6 @@
 #include "machine/conta_grupos.h"
 #include "machine/contagem.h"
 #include "machine/ordenacao.h"
-#include "machine/tentativas.h"
 #include "machine/vale.h"
 #include "players/hall_da_fama.h"
 #include "players/lista_de_jogadores.h"
@@ -180,23 +179,18 @@ json vez(const Pedido& p) {
         poeCarta(m.baralhoValor, m.baralhoNaipe, static_cast<int>(i + 1), carta(monte[i], "stock"));
     m.qtdBaralho = static_cast<int16>(monte.size());
 
-    // What it will do, from the rule alone; then the turn itself, through the table.
-    Mesa previa = m;
-    const Decisao d = decideDescarte(previa, topo);
-    if (!d.pegaDescarte && m.qtdBaralho == 0)
+    // What it will do, asked of the same level from the seat's view; then the turn itself.
+    VisaoDoNivel visao = visaoDe(jogo, Lado::Mac);
+    const bool pega = classico.pegaDescarte(visao);
+    if (!pega && m.qtdBaralho == 0)
         return {{"takes", "none"},
                 {"discard", 0},
                 {"hand", paraJson(mao)},
                 {"pile", escreveCarta(topo)}};
-    int16 descarte = d.descarte.melhorCarta;
-    if (!d.pegaDescarte) {
-        const Carta comprada = cartaNa(m.baralhoValor, m.baralhoNaipe, m.qtdBaralho);
-        previa.qtdMac = kCasaCompra;
-        poeCarta(previa.macValor, previa.macNaipe, kCasaCompra, comprada);
-        descarte = escolheDescarteAposCompra(previa, comprada, d.pontosBase);
-    }
+    visao.mao.push_back(pega ? topo : cartaNa(m.baralhoValor, m.baralhoNaipe, m.qtdBaralho));
+    const int16 descarte = classico.descarte(visao, pega);
     macjoga(jogo);
-    return {{"takes", d.pegaDescarte ? "pile" : "stock"},
+    return {{"takes", pega ? "pile" : "stock"},
             {"discard", descarte},
             {"hand", paraJson(maoDaMesa(m, Lado::Mac))},
             {"pile", escreveCarta({m.discarteValor, m.discarteNaipe})}};

@@ -20,14 +20,6 @@ Tentativa tentaCarta(Mesa& mesa, Carta nova, bool descendo) {
     return t;
 }
 
-Decisao decideDescarte(Mesa& mesa, Carta topo) {
-    Decisao d;
-    d.pontosBase = TemQuantosGrupos(mesa, Lado::Mac);
-    d.descarte = tentaCarta(mesa, topo, false);
-    d.pegaDescarte = d.descarte.melhorPontos > d.pontosBase;
-    return d;
-}
-
 int16 escolheDescarteAposCompra(Mesa& mesa, Carta comprada, int16 pontosBase) {
     // The drawn card waits in slot 10, out of the count.
     const int16 qtd = mesa.qtdMac;

@@ -15,14 +15,6 @@ struct Tentativa {
 // judging each by the short count. The first slot to reach a result keeps it.
 Tentativa tentaCarta(Mesa& mesa, Carta nova, bool descendo);
 
-// What the machine does with the top of the pile, before anything is shown.
-struct Decisao {
-    bool pegaDescarte = false;
-    int16 pontosBase = 0; // the full count of the nine cards
-    Tentativa descarte;   // the tries of the top of the pile
-};
-Decisao decideDescarte(Mesa& mesa, Carta topo);
-
 // After a draw: the slot to throw away, 10 for the drawn card itself.
 int16 escolheDescarteAposCompra(Mesa& mesa, Carta comprada, int16 pontosBase);
 

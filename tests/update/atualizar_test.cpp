@@ -12,8 +12,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
-#include <sodium.h>
 
+#include "apoio/chave_de_teste.h"
 #include "apoio/janela_modal.h"
 #include "servidor_https.h"
 #include "update/qt/frm_sobre.h"
@@ -25,25 +25,12 @@ namespace {
 using teste::quandoAbrir;
 using teste::Resposta;
 
-// A throwaway key, made for this test only.
-struct Chave {
-    unsigned char publica[crypto_sign_PUBLICKEYBYTES], secreta[crypto_sign_SECRETKEYBYTES];
-    Chave() {
-        if (sodium_init() < 0) std::abort();
-        crypto_sign_keypair(publica, secreta);
-    }
-    QString publicaHex() const {
-        char hex[2 * sizeof publica + 1];
-        sodium_bin2hex(hex, sizeof hex, publica, sizeof publica);
-        return hex;
-    }
+// The test key, in the types of the windows.
+struct Chave : teste::ChaveDeTeste {
+    QString publicaHex() const { return QString::fromStdString(ChaveDeTeste::publicaHex()); }
     QString assina(const QByteArray& dados) const {
-        unsigned char sig[crypto_sign_BYTES];
-        crypto_sign_detached(sig, nullptr, reinterpret_cast<const unsigned char*>(dados.data()),
-                             static_cast<unsigned long long>(dados.size()), secreta);
-        char b64[sodium_base64_ENCODED_LEN(crypto_sign_BYTES, sodium_base64_VARIANT_ORIGINAL)];
-        sodium_bin2base64(b64, sizeof b64, sig, sizeof sig, sodium_base64_VARIANT_ORIGINAL);
-        return b64;
+        return QString::fromStdString(
+            ChaveDeTeste::assina(std::string_view(dados.constData(), dados.size())));
     }
 };
 

@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <fcntl.h>
-#include <sodium.h>
 #include <spawn.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -15,6 +14,7 @@
 #include <iterator>
 #include <string>
 
+#include "apoio/chave_de_teste.h"
 #include "update/assinatura.h"
 #include "update/instalador/instala.h"
 
@@ -33,34 +33,12 @@ void escreve(const fs::path& p, const std::string& conteudo) {
     std::ofstream(p, std::ios::binary | std::ios::trunc) << conteudo;
 }
 
-// A throwaway key pair.
-struct Chaves {
-    unsigned char publica[crypto_sign_PUBLICKEYBYTES], secreta[crypto_sign_SECRETKEYBYTES];
-    Chaves() {
-        if (sodium_init() < 0) std::abort();
-        crypto_sign_keypair(publica, secreta);
-    }
-    std::string assina(const std::string& dados) const {
-        unsigned char sig[crypto_sign_BYTES];
-        crypto_sign_detached(sig, nullptr, reinterpret_cast<const unsigned char*>(dados.data()),
-                             dados.size(), secreta);
-        char b64[sodium_base64_ENCODED_LEN(crypto_sign_BYTES, sodium_base64_VARIANT_ORIGINAL)];
-        sodium_bin2base64(b64, sizeof b64, sig, sizeof sig, sodium_base64_VARIANT_ORIGINAL);
-        return b64;
-    }
-    std::string publicaHex() const {
-        char hex[2 * crypto_sign_PUBLICKEYBYTES + 1];
-        sodium_bin2hex(hex, sizeof hex, publica, sizeof publica);
-        return hex;
-    }
-};
-
 struct Instalador : testing::Test {
     fs::path raiz = fs::temp_directory_path() / ("corvina-instala-" + std::to_string(::getpid()));
     fs::path casa = raiz / "casa", segura = raiz / "segura", instalado = raiz / "instalado";
     fs::path script = raiz / "instalador.sh";
     std::string pacote = "!<arch>\ndebian-binary   " + std::string(40000, 'd');
-    Chaves chaves;
+    teste::ChaveDeTeste chaves;
 
     Instalador() {
         fs::create_directories(casa);
@@ -73,7 +51,7 @@ struct Instalador : testing::Test {
 
     std::string assina(const std::string& dados) const { return chaves.assina(dados); }
     static std::string assinaPorOutro(const std::string& dados) {
-        Chaves outra;
+        teste::ChaveDeTeste outra;
         return outra.assina(dados);
     }
     std::string chave() const { return chaves.publicaHex(); }
