@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "cli/parada.h"
 #include "cli/pedidos.h"
 
 int main(int argc, char** argv) {
@@ -17,6 +18,7 @@ int main(int argc, char** argv) {
         return 2;
     }
     std::ios::sync_with_stdio(false);
+    corvina::cli::instalaParada();
     // A line is kept only up to one byte past the longest request, so that a line without
     // end can't fill the memory: its answer is the error of a line too long.
     std::string linha;
@@ -26,7 +28,7 @@ int main(int argc, char** argv) {
         if (c == '\n' || c == std::char_traits<char>::eof()) {
             std::cout << corvina::cli::responde(linha) << '\n' << std::flush;
             linha.clear();
-            if (c == std::char_traits<char>::eof()) break;
+            if (c == std::char_traits<char>::eof() || corvina::cli::parou()) break;
         } else if (linha.size() <= corvina::cli::kMaiorLinha) {
             linha.push_back(static_cast<char>(c));
         }

@@ -6,15 +6,18 @@
 #include <set>
 
 #include "cli/json_cartas.h"
+#include "cli/parada.h"
 #include "core/distribue.h"
 #include "core/vez_da_maquina.h"
 #include "core/visao_do_nivel.h"
 #include "core/vista_nula.h"
 #include "machine/agrupa_mac.h"
+#include "machine/arena.h"
 #include "machine/autojogador.h"
 #include "machine/classico.h"
 #include "machine/conta_grupos.h"
 #include "machine/contagem.h"
+#include "machine/niveis.h"
 #include "machine/ordenacao.h"
 #include "machine/vale.h"
 #include "players/hall_da_fama.h"
@@ -207,24 +210,28 @@ std::vector<Carta> listaDeCartas(const Pedido& p, const char* nome, std::size_t 
     return lista;
 }
 
-std::unique_ptr<Nivel> nivelPedido(const Pedido& p) {
-    const std::string nome = texto(p, "level");
-    if (nome == "classico") return std::make_unique<Classico>();
-    if (nome == "esperto" || nome == "forte")
-        throw PedidoInvalido("level \"" + nome + "\" does not play yet");
-    throw PedidoInvalido("\"level\" must be \"classico\", \"esperto\" or \"forte\"");
+TipoNivel tipoDoNivel(const Pedido& p, const char* nome) {
+    const std::string chave = texto(p, nome);
+    if (const auto n = nivelDaChave(chave)) return *n;
+    throw PedidoInvalido(std::string("\"") + nome +
+                         "\" must be \"classico\", \"esperto\" or \"forte\"");
 }
 
 json decide(const Pedido& p) {
-    const std::unique_ptr<Nivel> nivel = nivelPedido(p);
+    const TipoNivel tipo = tipoDoNivel(p, "level");
+    const auto semente =
+        p.contains("seed") ? static_cast<std::uint64_t>(inteiro(p, "seed", 0, INT64_MAX)) : 0;
+    const std::unique_ptr<Nivel> nivel = criaNivel(tipo, semente);
     VisaoDoNivel v;
     v.mao = cartas(p, "hand", {kCartasNaMao, kCasaCompra});
     const Pedido& pilha = campo(p, "pile");
     if (!pilha.is_null()) v.topo = carta(pilha, "pile");
     v.descartes = listaDeCartas(p, "discards", kCartasNoJogo);
     v.tomadasPeloOutro = listaDeCartas(p, "opponentTook", kCartasNoJogo);
+    if (p.contains("opponentDiscards"))
+        v.descartesDoOutro = listaDeCartas(p, "opponentDiscards", kCartasNoJogo);
+    if (p.contains("took")) v.tomadasProprias = listaDeCartas(p, "took", kCartasNoJogo);
     v.monte = static_cast<int16>(inteiro(p, "stock", 0, kCartasNoMonte));
-    if (p.contains("seed")) inteiro(p, "seed", 0, INT64_MAX); // replays the levels that sample
     std::map<Carta, int> vistas; // two packs: no card stands three times in one's own sight
     for (const Carta c : v.mao) ++vistas[c];
     if (v.topo) ++vistas[*v.topo];
@@ -292,6 +299,25 @@ json autojogo(const Pedido& p) {
             {"matchesWonJog", r.partidasJog},
             {"matchesWonMac", r.partidasMac},
             {"seconds", r.segundos}};
+}
+
+json arena(const Pedido& p) {
+    PedidoArena a;
+    a.a = tipoDoNivel(p, "a");
+    a.b = tipoDoNivel(p, "b");
+    a.pares = inteiro(p, "pairs", 1, 10000000);
+    a.semente = static_cast<std::uint64_t>(inteiro(p, "seed", 0, INT64_MAX));
+    if (p.contains("from")) a.primeiro = inteiro(p, "from", 0, INT64_MAX / 2);
+    a.threads = p.contains("threads") ? static_cast<int>(inteiro(p, "threads", 1, 256)) : 1;
+    const ResultadoArena r = corvina::arena(a, sinalDeParada(), progresso("arena"));
+    json resposta = {
+        {"handsA", r.maosA},       {"handsB", r.maosB},       {"noWinner", r.semVencedor},
+        {"matchesA", r.partidasA}, {"matchesB", r.partidasB}, {"shareA", r.shareA},
+        {"ciLow", r.ciLow},        {"ciHigh", r.ciHigh},      {"msMeanA", r.msMeanA},
+        {"msP99A", r.msP99A},      {"msMeanB", r.msMeanB},    {"msP99B", r.msP99B},
+        {"pairs", r.pares},        {"from", a.primeiro}};
+    if (r.interrompida) resposta["interrupted"] = true;
+    return resposta;
 }
 
 // One press of the sort button on a hand; a win is reported with the hand as it won.
@@ -380,6 +406,7 @@ json atende(const Pedido& p) {
     if (op == "agrupaMac") return agrupa(p);
     if (op == "turn") return vez(p);
     if (op == "decide") return decide(p);
+    if (op == "arena") return arena(p);
     if (op == "deal") return distribuicao(p);
     if (op == "selfplay") return autojogo(p);
     if (op == "sortButton") return botaoOrdenar(p);

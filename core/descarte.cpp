@@ -64,7 +64,7 @@ Descarte descartaJog(Jogo& jogo, int16 posicao) {
     voaParaPilha(jogo);
     m.discarteValor = m.jogValor[posicao];
     m.discarteNaipe = m.jogNaipe[posicao];
-    jogo.historico.descarta(Carta{m.discarteValor, m.discarteNaipe});
+    jogo.historico.descarta(Lado::Jog, Carta{m.discarteValor, m.discarteNaipe});
     v.espera(pausa::kChegada);
 
     --m.qtdJog;

@@ -13,11 +13,13 @@ namespace corvina {
 
 struct Historico {
     std::vector<Carta> descartes;                // both sides, in the order they were thrown
+    std::vector<Lado> autores;                   // who threw each of them
     std::array<std::vector<Carta>, 2> tomadas{}; // by side: what each took from the pile
     bool topoTomado = false; // the last card thrown was taken back: no top until the next
 
-    void descarta(Carta c) {
+    void descarta(Lado lado, Carta c) {
         descartes.push_back(c);
+        autores.push_back(lado);
         topoTomado = false;
     }
     void toma(Lado lado, Carta c) {
@@ -31,6 +33,7 @@ struct Historico {
     }
     void limpa() {
         descartes.clear();
+        autores.clear();
         for (auto& t : tomadas) t.clear();
         topoTomado = false;
     }

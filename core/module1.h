@@ -23,6 +23,8 @@ struct Module1 {
     bool tocarMusica = false;
     bool animarCartas = false;
     bool avisoOrdenar = false;
+    // The deal as it falls: the better dealt hand is never handed to the machine.
+    bool distribuicaoJusta = false;
 };
 
 } // namespace corvina

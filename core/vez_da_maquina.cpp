@@ -110,7 +110,7 @@ void macdiscarta(Jogo& jogo, int16 carta) {
     // The hand changes only now that the flight is over.
     m.discarteValor = m.macValor[carta];
     m.discarteNaipe = m.macNaipe[carta];
-    jogo.historico.descarta(Carta{m.discarteValor, m.discarteNaipe});
+    jogo.historico.descarta(Lado::Mac, Carta{m.discarteValor, m.discarteNaipe});
     --m.qtdMac;
     for (int s = carta; s <= m.qtdMac; ++s) {
         m.macValor[s] = m.macValor[s + 1];

@@ -14,7 +14,12 @@ VisaoDoNivel visaoDe(const Jogo& jogo, Lado lado) {
     if (g.qtdDescarte > 0 && !jogo.historico.topoTomado)
         v.topo = Carta{m.discarteValor, m.discarteNaipe};
     v.descartes = jogo.historico.descartes;
-    v.tomadasPeloOutro = jogo.historico.tomadasPor(jog ? Lado::Mac : Lado::Jog);
+    const Lado outro = jog ? Lado::Mac : Lado::Jog;
+    v.tomadasPeloOutro = jogo.historico.tomadasPor(outro);
+    v.tomadasProprias = jogo.historico.tomadasPor(lado);
+    for (std::size_t i = 0; i < jogo.historico.descartes.size(); ++i)
+        if (jogo.historico.autores[i] == outro)
+            v.descartesDoOutro.push_back(jogo.historico.descartes[i]);
     v.monte = m.qtdBaralho;
     v.pontosProprios = jog ? g.pontosJog : g.pontosMac;
     v.pontosDoOutro = jog ? g.pontosMac : g.pontosJog;

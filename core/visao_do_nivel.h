@@ -18,6 +18,8 @@ struct VisaoDoNivel {
     std::optional<Carta> topo;           // the top of the pile, when it can be taken
     std::vector<Carta> descartes;        // this hand's discards of both sides, in order
     std::vector<Carta> tomadasPeloOutro; // what the other side took from the pile this hand
+    std::vector<Carta> descartesDoOutro; // what the other side threw, in order
+    std::vector<Carta> tomadasProprias;  // what this side took from the pile
     int16 monte = 0;                     // cards left in the stock
     int16 pontosProprios = 0, pontosDoOutro = 0;
 };

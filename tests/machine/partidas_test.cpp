@@ -3,7 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
+#include <memory>
 #include <random>
 
 #include "core/ajustes.h"
@@ -14,6 +16,8 @@
 #include "core/vista_nula.h"
 #include "machine/autojogador.h"
 #include "machine/classico.h"
+#include "machine/esperto.h"
+#include "machine/forte.h"
 
 namespace corvina {
 namespace {
@@ -95,6 +99,9 @@ void confereEntreVezes(const Jogo& jogo, const VistaVigia& vista) {
         for (int i = 1; i <= mao.qtd; ++i)
             ASSERT_EQ(v.mao[i - 1], cartaNa(mao.valor, mao.naipe, i));
         ASSERT_EQ(v.tomadasPeloOutro, jogo.historico.tomadasPor(outro));
+        ASSERT_EQ(v.tomadasProprias, jogo.historico.tomadasPor(lado));
+        ASSERT_EQ(v.descartesDoOutro.size(),
+                  std::count(jogo.historico.autores.begin(), jogo.historico.autores.end(), outro));
         ASSERT_EQ(v.topo.has_value(), jogo.modulo.qtdDescarte > 0) << "between turns it lies free";
         if (v.topo) {
             ASSERT_EQ(*v.topo, jogo.historico.descartes.back());
@@ -113,10 +120,20 @@ void jogaAoAcaso(Jogo& jogo, std::mt19937& g) {
     descartaJog(jogo, static_cast<int16>(g() % kCasaCompra + 1));
 }
 
+enum class Maquina { Classico, Esperto, Forte };
+
 struct Politica {
     const char* nome;
     bool aoAcaso;
+    Maquina maquina = Maquina::Classico; // who plays the machine's seat
 };
+
+std::unique_ptr<Nivel> nivelDa(Maquina m, unsigned semente) {
+    if (m == Maquina::Esperto) return std::make_unique<Esperto>();
+    // Few worlds: the test is of what the level does to the table, not of its strength.
+    if (m == Maquina::Forte) return std::make_unique<Forte>(semente, ParametrosForte{.mundos = 6});
+    return std::make_unique<Classico>();
+}
 
 class PartidasTest : public testing::TestWithParam<std::tuple<Politica, unsigned>> {};
 
@@ -124,10 +141,11 @@ TEST_P(PartidasTest, TableStaysSoundThroughWholeMatches) {
     const auto [politica, semente] = GetParam();
     AcasoSemente acaso(semente);
     VistaVigia vista;
-    Classico classico;
-    Jogo jogo(vista, acaso, classico);
+    const auto maquina = nivelDa(politica.maquina, semente);
+    Jogo jogo(vista, acaso, *maquina);
     leConfig(jogo);
     jogo.modulo.nomeJogador = "Ana";
+    jogo.modulo.distribuicaoJusta = politica.maquina != Maquina::Classico;
     std::mt19937 g(semente);
 
     int partidas = 0, maos = 0;
@@ -155,14 +173,28 @@ TEST_P(PartidasTest, TableStaysSoundThroughWholeMatches) {
     EXPECT_GE(maos, kPartidas * 4);
 }
 
-INSTANTIATE_TEST_SUITE_P(Sementes, PartidasTest,
-                         testing::Combine(testing::Values(Politica{"regra", false},
-                                                          Politica{"acaso", true}),
-                                          testing::Values(1u, 2u, 3u, 5u, 8u, 13u)),
-                         [](const auto& info) {
-                             return std::string(std::get<0>(info.param).nome) + "_" +
-                                    std::to_string(std::get<1>(info.param));
-                         });
+INSTANTIATE_TEST_SUITE_P(
+    Sementes, PartidasTest,
+    testing::Combine(testing::Values(Politica{"regra", false}, Politica{"acaso", true},
+                                     Politica{"esperto", false, Maquina::Esperto},
+                                     Politica{"forte", true, Maquina::Forte}),
+                     testing::Values(1u, 2u, 3u, 5u, 8u, 13u)),
+    [](const auto& info) {
+        return std::string(std::get<0>(info.param).nome) + "_" +
+               std::to_string(std::get<1>(info.param));
+    });
+
+// The classic game with its defaults, the deal's exchange included, plays as it always has:
+// these figures were taken before the levels came in, and no level may move them.
+TEST(Autojogo, TheClassicGamePlaysAsItAlwaysHas) {
+    const ResumoAutojogo r = autojoga(1, 30);
+    EXPECT_EQ(r.maos, 175);
+    EXPECT_EQ(r.maosJog, 81);
+    EXPECT_EQ(r.maosMac, 94);
+    EXPECT_EQ(r.trocas, 21);
+    EXPECT_EQ(r.partidasJog, 14);
+    EXPECT_EQ(r.partidasMac, 16);
+}
 
 TEST(Autojogo, TheSameSeedPlaysTheSameMatches) {
     const ResumoAutojogo a = autojoga(77, 5);

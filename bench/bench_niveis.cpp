@@ -1,0 +1,85 @@
+// The levels that look ahead: the distance to three trincas, a played-out hand, and one
+// decision of each level, on hands drawn from a shuffled double pack.
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <random>
+#include <vector>
+
+#include "core/visao_do_nivel.h"
+#include "machine/distancia.h"
+#include "machine/esperto.h"
+#include "machine/forte.h"
+#include "machine/simulacao.h"
+
+namespace corvina {
+namespace {
+
+std::vector<Carta> baralhoAoAcaso(std::mt19937& gerador) {
+    std::vector<Carta> b;
+    for (int id = 1; id <= kCartasNoJogo; ++id) b.push_back(cartaDoId(static_cast<int16>(id)));
+    std::shuffle(b.begin(), b.end(), gerador);
+    return b;
+}
+
+// Nine cards, a top, thirty stock cards gone by: the middle of a hand.
+std::vector<VisaoDoNivel> visoes(int quantas, std::size_t cartas) {
+    std::mt19937 gerador(2026);
+    std::vector<VisaoDoNivel> v(static_cast<std::size_t>(quantas));
+    for (auto& x : v) {
+        const auto b = baralhoAoAcaso(gerador);
+        x.mao.assign(b.begin(), b.begin() + static_cast<std::ptrdiff_t>(cartas));
+        x.descartes.assign(b.begin() + 20, b.begin() + 40);
+        x.topo = x.descartes.back();
+        x.monte = 50;
+    }
+    return v;
+}
+
+void distanciaDeDez(benchmark::State& estado) {
+    std::vector<Conhecimento> ks;
+    for (const auto& v : visoes(512, kCasaCompra)) ks.push_back(conhecimentoDe(v));
+    std::size_t i = 0;
+    const bool uteis = estado.range(0) != 0;
+    for (auto _ : estado) {
+        benchmark::DoNotOptimize(distancia(ks[i].mao, ks[i].invisiveis, uteis).faltam);
+        i = (i + 1) % ks.size();
+    }
+    estado.SetItemsProcessed(estado.iterations());
+}
+BENCHMARK(distanciaDeDez)->Name("niveis/distancia_dez")->Arg(0)->Arg(1);
+
+template <class N> void decisao(benchmark::State& estado, N& nivel, std::size_t cartas) {
+    const auto vs = visoes(256, cartas);
+    std::size_t i = 0;
+    for (auto _ : estado) {
+        if (cartas == kCartasNaMao)
+            benchmark::DoNotOptimize(nivel.pegaDescarte(vs[i]));
+        else
+            benchmark::DoNotOptimize(nivel.descarte(vs[i], false));
+        i = (i + 1) % vs.size();
+    }
+    estado.SetItemsProcessed(estado.iterations());
+}
+
+void espertoDescarte(benchmark::State& estado) {
+    Esperto e;
+    decisao(estado, e, kCasaCompra);
+}
+BENCHMARK(espertoDescarte)->Name("niveis/esperto_descarte");
+
+void forteDescarte(benchmark::State& estado) {
+    Forte f(1);
+    decisao(estado, f, kCasaCompra);
+}
+BENCHMARK(forteDescarte)->Name("niveis/forte_descarte")->Unit(benchmark::kMillisecond);
+
+void forteCompra(benchmark::State& estado) {
+    Forte f(1);
+    decisao(estado, f, kCartasNaMao);
+}
+BENCHMARK(forteCompra)->Name("niveis/forte_compra")->Unit(benchmark::kMillisecond);
+
+} // namespace
+} // namespace corvina

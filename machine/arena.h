@@ -1,0 +1,47 @@
+#pragma once
+// Two levels against each other on mirrored deals: every seeded shuffle is played twice, the
+// levels changing seats, with the deal as it falls. Hands and matches are counted for each,
+// and the time of every decision.
+
+#include <atomic>
+#include <cstdint>
+#include <functional>
+#include <vector>
+
+#include "core/nivel.h"
+#include "machine/niveis.h"
+
+namespace corvina {
+
+enum class Vencedor { Jog, Mac, Ninguem };
+
+// One hand from the shuffle of `semente`, no exchange: `jog` in the player's seat (who moves
+// first), `mac` in the machine's.
+Vencedor jogaUmaMao(Nivel& jog, Nivel& mac, std::uint64_t semente);
+
+struct PedidoArena {
+    TipoNivel a = TipoNivel::Forte, b = TipoNivel::Classico;
+    std::uint64_t semente = 1;
+    long primeiro = 0; // pairs primeiro .. primeiro + pares - 1: ranges split a long run
+    long pares = 0;
+    int threads = 1;
+};
+
+struct ResultadoArena {
+    long pares = 0; // played to the end; fewer than asked when interrupted
+    long maosA = 0, maosB = 0, semVencedor = 0;
+    long partidasA = 0, partidasB = 0;        // first to 4, in each seat's run of hands
+    double shareA = 0, ciLow = 0, ciHigh = 0; // of decided hands, Wilson's 95% interval
+    double msMeanA = 0, msP99A = 0, msMeanB = 0, msP99B = 0;
+    bool interrompida = false;
+};
+
+// `parar` ends it early with the figures of the pairs played; `progresso` hears of every pair
+// finished (pairs done, pairs asked), from any thread, one at a time.
+ResultadoArena arena(const PedidoArena& pedido, const std::atomic<bool>* parar = nullptr,
+                     const std::function<void(long, long)>& progresso = {});
+
+// The seed of pair `i` of a run.
+std::uint64_t sementeDoPar(std::uint64_t semente, long i);
+
+} // namespace corvina

@@ -1,0 +1,155 @@
+// The levels that play honestly: what Esperto chooses on plain positions, Forte replaying its
+// choices, and the arena's mirrored deals.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "apoio/maos.h"
+#include "machine/arena.h"
+#include "machine/esperto.h"
+#include "machine/forte.h"
+
+namespace corvina {
+namespace {
+
+using teste::cartas;
+
+VisaoDoNivel visao(const char* mao, const char* topo, const char* descartes) {
+    VisaoDoNivel v;
+    v.mao = cartas(mao);
+    const auto t = cartas(topo);
+    if (!t.empty()) v.topo = t.front();
+    v.descartes = cartas(descartes);
+    if (v.topo) v.descartes.push_back(*v.topo);
+    v.monte = 40;
+    return v;
+}
+
+struct CasoCompra {
+    const char* mao;
+    const char* topo;
+    const char* descartes;
+    bool pega;
+};
+
+class EspertoCompraTest : public testing::TestWithParam<CasoCompra> {};
+
+TEST_P(EspertoCompraTest, TakesThePileOnlyWhenItBringsTheHandCloser) {
+    const CasoCompra& c = GetParam();
+    Esperto e;
+    EXPECT_EQ(e.pegaDescarte(visao(c.mao, c.topo, c.descartes)), c.pega)
+        << c.mao << " + " << c.topo;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Posicoes, EspertoCompraTest,
+    testing::Values(CasoCompra{"7/1 7/2 1/4 2/4 3/4 5/3 6/3 9/1 11/2", "7/3", "", true},
+                    CasoCompra{"7/1 7/2 1/4 2/4 3/4 5/3 6/3 9/1 11/2", "13/1", "", false},
+                    // A third seven of hearts makes nothing: twins are one card twice.
+                    CasoCompra{"7/1 7/2 1/4 2/4 3/4 5/3 6/3 9/1 11/2", "7/1", "", false},
+                    // The queen-king-ace run counts.
+                    CasoCompra{"12/2 13/2 1/4 2/4 3/4 5/3 6/3 9/1 11/3", "1/2", "", true},
+                    CasoCompra{"7/1 7/2 1/4 2/4 3/4 5/3 6/3 9/1 11/2", "", "", false}));
+
+struct CasoDescarte {
+    const char* mao; // ten cards, the last one just drawn
+    const char* descartes;
+    const char* jogaUmaDestas;
+};
+
+class EspertoDescarteTest : public testing::TestWithParam<CasoDescarte> {};
+
+TEST_P(EspertoDescarteTest, ThrowsWhatTheHandNeedsLeast) {
+    const CasoDescarte& c = GetParam();
+    const VisaoDoNivel v = visao(c.mao, "", c.descartes);
+    Esperto e;
+    const int16 casa = e.descarte(v, false);
+    ASSERT_GE(casa, 1);
+    ASSERT_LE(casa, kCasaCompra);
+    const auto aceitas = cartas(c.jogaUmaDestas);
+    EXPECT_NE(std::find(aceitas.begin(), aceitas.end(), v.mao[casa - 1]), aceitas.end())
+        << c.mao << " threw " << escreveCarta(v.mao[casa - 1]);
+}
+
+INSTANTIATE_TEST_SUITE_P(Posicoes, EspertoDescarteTest,
+                         testing::Values(
+                             // Three trincas once the king goes.
+                             CasoDescarte{"7/1 7/2 7/3 1/4 2/4 3/4 5/3 6/3 4/3 13/2", "", "13/2"},
+                             // Both fours of diamonds and the other seven are gone: the diamonds
+                             // can't be finished and go before the live hearts.
+                             CasoDescarte{"7/1 7/2 7/3 1/4 2/4 3/4 5/3 6/3 10/1 11/1",
+                                          "4/3 4/3 7/3", "5/3 6/3"},
+                             CasoDescarte{"7/1 7/2 7/3 1/4 2/4 3/4 5/3 6/3 10/1 11/1",
+                                          "9/1 9/1 12/1 12/1", "10/1 11/1"}));
+
+TEST(Forte, TheSameViewAndSeedDecideTheSame) {
+    const VisaoDoNivel nove = visao("7/1 7/2 1/4 2/4 3/4 5/3 6/3 9/1 11/2", "9/2", "4/1 8/2");
+    const VisaoDoNivel dez = visao("7/1 7/2 1/4 2/4 3/4 5/3 6/3 9/1 11/2 12/3", "", "4/1 8/2");
+    for (std::uint64_t semente : {1u, 2u, 99u}) {
+        Forte a(semente), b(semente);
+        EXPECT_EQ(a.pegaDescarte(nove), b.pegaDescarte(nove));
+        const int16 casa = a.descarte(dez, false);
+        EXPECT_EQ(casa, b.descarte(dez, false));
+        EXPECT_EQ(casa, a.descarte(dez, false)) << "no state carried from one decision on";
+    }
+}
+
+// Equal levels on mirrored deals: whatever one seat wins on a deal, the other wins on its
+// mirror. A seat's edge or a deal's luck would show here.
+TEST(Arena, EqualLevelsSplitMirroredDealsExactly) {
+    for (const TipoNivel n : {TipoNivel::Classico, TipoNivel::Esperto}) {
+        PedidoArena p;
+        p.a = p.b = n;
+        p.semente = 5;
+        p.pares = 40;
+        const ResultadoArena r = arena(p);
+        EXPECT_EQ(r.pares, 40);
+        EXPECT_EQ(r.maosA, r.maosB) << chaveDoNivel(n);
+        EXPECT_EQ(r.partidasA, r.partidasB) << chaveDoNivel(n);
+        EXPECT_EQ(r.maosA + r.maosB + r.semVencedor, 80);
+        EXPECT_DOUBLE_EQ(r.shareA, 0.5);
+        EXPECT_LT(r.ciLow, 0.5);
+        EXPECT_GT(r.ciHigh, 0.5);
+    }
+}
+
+TEST(Arena, RangesAndThreadsAddUpToTheWholeRun) {
+    PedidoArena p;
+    p.a = TipoNivel::Esperto;
+    p.b = TipoNivel::Classico;
+    p.semente = 11;
+    p.pares = 30;
+    const ResultadoArena todo = arena(p);
+    p.threads = 2;
+    const ResultadoArena emDois = arena(p);
+    EXPECT_EQ(emDois.maosA, todo.maosA);
+    EXPECT_EQ(emDois.maosB, todo.maosB);
+    EXPECT_EQ(emDois.partidasA, todo.partidasA);
+    p.threads = 1;
+    p.pares = 12;
+    const ResultadoArena inicio = arena(p);
+    p.primeiro = 12;
+    p.pares = 18;
+    const ResultadoArena fim = arena(p);
+    EXPECT_EQ(inicio.maosA + fim.maosA, todo.maosA);
+    EXPECT_EQ(inicio.maosB + fim.maosB, todo.maosB);
+    EXPECT_EQ(inicio.semVencedor + fim.semVencedor, todo.semVencedor);
+}
+
+TEST(Arena, AnInterruptAnswersForThePairsPlayed) {
+    PedidoArena p;
+    p.a = TipoNivel::Esperto;
+    p.b = TipoNivel::Classico;
+    p.pares = 50;
+    std::atomic<bool> parar{false};
+    const ResultadoArena r = arena(p, &parar, [&](long feitos, long) {
+        if (feitos == 3) parar = true;
+    });
+    EXPECT_TRUE(r.interrompida);
+    EXPECT_EQ(r.pares, 3);
+    EXPECT_EQ(r.maosA + r.maosB + r.semVencedor, 6);
+}
+
+} // namespace
+} // namespace corvina
