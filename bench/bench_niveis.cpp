@@ -1,4 +1,4 @@
-// The levels that look ahead: the distance to three trincas, a played-out hand, and one
+// The levels that look ahead: the distance to three trincas and one
 // decision of each level, on hands drawn from a shuffled double pack.
 
 #include <benchmark/benchmark.h>
@@ -11,7 +11,6 @@
 #include "machine/distancia.h"
 #include "machine/esperto.h"
 #include "machine/forte.h"
-#include "machine/simulacao.h"
 
 namespace corvina {
 namespace {
@@ -70,13 +69,13 @@ void espertoDescarte(benchmark::State& estado) {
 BENCHMARK(espertoDescarte)->Name("niveis/esperto_descarte");
 
 void forteDescarte(benchmark::State& estado) {
-    Forte f(1);
+    Forte f;
     decisao(estado, f, kCasaCompra);
 }
 BENCHMARK(forteDescarte)->Name("niveis/forte_descarte")->Unit(benchmark::kMillisecond);
 
 void forteCompra(benchmark::State& estado) {
-    Forte f(1);
+    Forte f;
     decisao(estado, f, kCartasNaMao);
 }
 BENCHMARK(forteCompra)->Name("niveis/forte_compra")->Unit(benchmark::kMillisecond);

@@ -55,7 +55,7 @@ Reparticao reparte(Jogo& jogo, const Embaralhado& ids) {
     Reparticao r;
     const int16 a = TemQuantosGrupos(m, Lado::Jog);
     const int16 b = TemQuantosGrupos(m, Lado::Mac);
-    if (a > b && !jogo.modulo.distribuicaoJusta) {
+    if (a > b && trocaNaDistribuicao(jogo.modulo.nivel, jogo.modulo.distribuicaoJusta)) {
         r.sortePercent = chanceDeTroca(jogo.modulo.pontosJog, jogo.modulo.pontosMac);
         if (r.sortePercent && Sorte(jogo.acaso, *r.sortePercent)) {
             da(kInicioMaquina, 1); // the better hand to the machine, in the same card order

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "core/carta.h"
+#include "core/nivel.h"
 
 namespace corvina {
 
@@ -23,7 +24,8 @@ struct Module1 {
     bool tocarMusica = false;
     bool animarCartas = false;
     bool avisoOrdenar = false;
-    // The deal as it falls: the better dealt hand is never handed to the machine.
+    // The player's opponent, and whether the deal may hand the machine the better hand.
+    TipoNivel nivel = TipoNivel::Classico;
     bool distribuicaoJusta = false;
 };
 

@@ -96,6 +96,10 @@ void EscolhaDeJogador::fecha() {
     // The name at the table follows the selection, also when the window is cancelled.
     modulo_.nomeJogador = textoSelecionado();
     if (modulo_.nomeJogador.empty()) modulo_.nomeJogador = texto::kSemNome;
+    // Each player meets the opponent and the deal that player chose.
+    const Registro r = leRegistro(armazem_, aparaBrancos(modulo_.nomeJogador));
+    modulo_.nivel = r.nivel;
+    modulo_.distribuicaoJusta = r.distribuicaoJusta;
 }
 
 void EscolhaDeJogador::excluir() {

@@ -51,6 +51,8 @@ Registro leRegistro(Armazem& a, const std::string& nome) {
     r.derrotas = numeroDoTexto(a.le(chave, ajuste::kDerrotas, "0"));
     r.saldo = numeroDoTexto(a.le(chave, ajuste::kSaldo, "0"));
     r.assistido = numeroDoTexto(a.le(chave, ajuste::kAssistido, "0")) == 1;
+    r.nivel = nivelDaChave(a.le(chave, ajuste::kNivel, "")).value_or(TipoNivel::Classico);
+    r.distribuicaoJusta = booleanoDoTexto(a.le(chave, ajuste::kDistribuicaoJusta, "False"));
     return r;
 }
 

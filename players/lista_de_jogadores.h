@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/armazem.h"
+#include "core/nivel.h"
 
 namespace corvina {
 
@@ -31,6 +32,8 @@ struct Registro {
     long vitorias = 0, derrotas = 0, saldo = 0;
     long jogos() const { return vitorias + derrotas; }
     bool assistido = false;
+    TipoNivel nivel = TipoNivel::Classico; // an unknown name is Clássico
+    bool distribuicaoJusta = false;
 };
 Registro leRegistro(Armazem& a, const std::string& nome);
 

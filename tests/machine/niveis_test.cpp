@@ -83,16 +83,30 @@ INSTANTIATE_TEST_SUITE_P(Posicoes, EspertoDescarteTest,
                              CasoDescarte{"7/1 7/2 7/3 1/4 2/4 3/4 5/3 6/3 10/1 11/1",
                                           "9/1 9/1 12/1 12/1", "10/1 11/1"}));
 
-TEST(Forte, TheSameViewAndSeedDecideTheSame) {
-    const VisaoDoNivel nove = visao("7/1 7/2 1/4 2/4 3/4 5/3 6/3 9/1 11/2", "9/2", "4/1 8/2");
-    const VisaoDoNivel dez = visao("7/1 7/2 1/4 2/4 3/4 5/3 6/3 9/1 11/2 12/3", "", "4/1 8/2");
-    for (std::uint64_t semente : {1u, 2u, 99u}) {
-        Forte a(semente), b(semente);
-        EXPECT_EQ(a.pegaDescarte(nove), b.pegaDescarte(nove));
-        const int16 casa = a.descarte(dez, false);
-        EXPECT_EQ(casa, b.descarte(dez, false));
-        EXPECT_EQ(casa, a.descarte(dez, false)) << "no state carried from one decision on";
-    }
+// Two draws ahead against every single card that may come: the sure way of the same sum.
+TEST(Forte, WeighsTheNextDrawByEveryCardThatMayCome) {
+    const Copias nove = [] {
+        Copias c{};
+        for (const Carta x : cartas("7/1 7/2 7/3 1/4 2/4 3/4 5/3 6/3 11/1")) ++c[tipoDaCarta(x)];
+        return c;
+    }();
+    Copias invisiveis{};
+    // Only the four and the seven of diamonds can come: each finishes the hand.
+    invisiveis[tipoDaCarta({4, 3})] = 1;
+    invisiveis[tipoDaCarta({7, 3})] = 1;
+    EXPECT_DOUBLE_EQ(valorDaCompra(nove, invisiveis), 0.0);
+    // The four, or a king that helps nothing: then one card short, with one way in of two.
+    invisiveis[tipoDaCarta({7, 3})] = 0;
+    invisiveis[tipoDaCarta({13, 2})] = 1;
+    invisiveis[tipoDaCarta({13, 3})] = 1;
+    EXPECT_DOUBLE_EQ(valorDaCompra(nove, invisiveis), (0 + 0.5 + 0.5) / 3);
+}
+
+TEST(Forte, TakesThePileWhenItFinishesAndLeavesItWhenItHelpsNothing) {
+    Forte f;
+    EXPECT_TRUE(f.pegaDescarte(visao("7/1 7/2 7/3 1/4 2/4 3/4 5/3 6/3 11/1", "4/3", "")));
+    EXPECT_FALSE(f.pegaDescarte(visao("7/1 7/2 7/3 1/4 2/4 3/4 5/3 6/3 11/1", "13/2", "")));
+    EXPECT_EQ(f.descarte(visao("7/1 7/2 7/3 1/4 2/4 3/4 5/3 6/3 4/3 13/2", "", ""), false), 10);
 }
 
 // Equal levels on mirrored deals: whatever one seat wins on a deal, the other wins on its

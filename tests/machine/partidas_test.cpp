@@ -128,10 +128,10 @@ struct Politica {
     Maquina maquina = Maquina::Classico; // who plays the machine's seat
 };
 
-std::unique_ptr<Nivel> nivelDa(Maquina m, unsigned semente) {
+std::unique_ptr<Nivel> nivelDa(Maquina m) {
     if (m == Maquina::Esperto) return std::make_unique<Esperto>();
-    // Few worlds: the test is of what the level does to the table, not of its strength.
-    if (m == Maquina::Forte) return std::make_unique<Forte>(semente, ParametrosForte{.mundos = 6});
+    // Two candidates: the test is of what the level does to the table, not of its strength.
+    if (m == Maquina::Forte) return std::make_unique<Forte>(ParametrosForte{.candidatos = 2});
     return std::make_unique<Classico>();
 }
 
@@ -141,7 +141,7 @@ TEST_P(PartidasTest, TableStaysSoundThroughWholeMatches) {
     const auto [politica, semente] = GetParam();
     AcasoSemente acaso(semente);
     VistaVigia vista;
-    const auto maquina = nivelDa(politica.maquina, semente);
+    const auto maquina = nivelDa(politica.maquina);
     Jogo jogo(vista, acaso, *maquina);
     leConfig(jogo);
     jogo.modulo.nomeJogador = "Ana";

@@ -1,0 +1,53 @@
+#include "machine/nivel_da_mesa.h"
+
+#include <chrono>
+#include <future>
+
+namespace corvina {
+
+namespace {
+inline constexpr auto kPausaDoPensamento = std::chrono::milliseconds(5);
+}
+
+NivelDaMesa::NivelDaMesa(const Module1& modulo, std::function<void()> enquantoPensa)
+    : modulo_(modulo), enquantoPensa_(std::move(enquantoPensa)) {}
+
+Nivel& NivelDaMesa::atual() {
+    switch (modulo_.nivel) {
+    case TipoNivel::Esperto:
+        return esperto_;
+    case TipoNivel::Forte:
+        return forte_;
+    case TipoNivel::Classico:
+        break;
+    }
+    return classico_;
+}
+
+template <class F> auto NivelDaMesa::semTravar(F&& f) {
+    if (!enquantoPensa_) return f();
+    // The view is a copy held by the caller until the answer comes: nothing is shared.
+    auto resposta = std::async(std::launch::async, std::forward<F>(f));
+    while (resposta.wait_for(kPausaDoPensamento) != std::future_status::ready) enquantoPensa_();
+    return resposta.get();
+}
+
+bool NivelDaMesa::pegaDescarte(const VisaoDoNivel& visao) {
+    if (modulo_.nivel == TipoNivel::Forte) return fortePegaDescarte(visao);
+    return atual().pegaDescarte(visao);
+}
+
+int16 NivelDaMesa::descarte(const VisaoDoNivel& visao, bool doDescarte) {
+    if (modulo_.nivel == TipoNivel::Forte) return forteDescarta(visao, doDescarte);
+    return atual().descarte(visao, doDescarte);
+}
+
+bool NivelDaMesa::fortePegaDescarte(const VisaoDoNivel& visao) {
+    return semTravar([&] { return forte_.pegaDescarte(visao); });
+}
+
+int16 NivelDaMesa::forteDescarta(const VisaoDoNivel& visao, bool doDescarte) {
+    return semTravar([&] { return forte_.descarte(visao, doDescarte); });
+}
+
+} // namespace corvina
