@@ -57,4 +57,17 @@ std::string escreveCartas(const std::vector<Carta>& cartas) {
     return texto;
 }
 
+std::string nomeDaCarta(Carta c) {
+    constexpr const char* kValor[] = {"?",    "ás",   "dois", "três", "quatro", "cinco", "seis",
+                                      "sete", "oito", "nove", "dez",  "valete", "dama",  "rei"};
+    constexpr const char* kNaipe[] = {"?", "copas", "paus", "ouros", "espadas"};
+    if (!cartaValida(c)) return "?";
+    return std::string(kValor[c.valor]) + " de " + kNaipe[c.naipe];
+}
+
+std::string nomeDaCartaComArtigo(Carta c) {
+    constexpr int16 kDama = 12; // the one value whose name is feminine
+    return (c.valor == kDama ? "a " : "o ") + nomeDaCarta(c);
+}
+
 } // namespace corvina

@@ -44,6 +44,11 @@ constexpr Carta cartaDoId(int16 id) {
     return Carta{static_cast<int16>(base % kValores + 1), static_cast<int16>(base / kValores + 1)};
 }
 
+// The card as a player says it: "sete de copas", "dama de espadas"; with its article, "o sete
+// de copas", "a dama de espadas".
+std::string nomeDaCarta(Carta c);
+std::string nomeDaCartaComArtigo(Carta c);
+
 // "7/1" is the seven of hearts. Nothing but digits, one slash and digits; no blanks.
 std::optional<Carta> lerCarta(std::string_view texto);
 std::string escreveCarta(Carta c);

@@ -49,7 +49,8 @@ struct Lugar {
 
 enum class Ponteiro : int16 { padrao = 0, proibido = 12, mao = 99 };
 
-enum class Janela { FrmPlacar, FrmNome, FrmOpc, FrmRecords, frmtipos, FrmSobre };
+// FrmNivel, the opponent's level and the fair deal, opens from the table only.
+enum class Janela { FrmPlacar, FrmNome, FrmOpc, FrmRecords, frmtipos, FrmSobre, FrmNivel };
 
 // Message box styles and the button it answers with.
 inline constexpr int kEstiloSimples = 0;

@@ -29,6 +29,8 @@ const char* nomeDaJanela(Janela janela) {
         return "frmtipos";
     case Janela::FrmSobre:
         return "FrmSobre";
+    case Janela::FrmNivel:
+        return "FrmNivel";
     }
     return "?";
 }

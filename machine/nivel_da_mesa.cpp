@@ -9,11 +9,8 @@ namespace {
 inline constexpr auto kPausaDoPensamento = std::chrono::milliseconds(5);
 }
 
-NivelDaMesa::NivelDaMesa(const Module1& modulo, std::function<void()> enquantoPensa)
-    : modulo_(modulo), enquantoPensa_(std::move(enquantoPensa)) {}
-
 Nivel& NivelDaMesa::atual() {
-    switch (modulo_.nivel) {
+    switch (modulo_ ? modulo_->nivel : TipoNivel::Classico) {
     case TipoNivel::Esperto:
         return esperto_;
     case TipoNivel::Forte:
@@ -33,12 +30,12 @@ template <class F> auto NivelDaMesa::semTravar(F&& f) {
 }
 
 bool NivelDaMesa::pegaDescarte(const VisaoDoNivel& visao) {
-    if (modulo_.nivel == TipoNivel::Forte) return fortePegaDescarte(visao);
+    if (forte()) return fortePegaDescarte(visao);
     return atual().pegaDescarte(visao);
 }
 
 int16 NivelDaMesa::descarte(const VisaoDoNivel& visao, bool doDescarte) {
-    if (modulo_.nivel == TipoNivel::Forte) return forteDescarta(visao, doDescarte);
+    if (forte()) return forteDescarta(visao, doDescarte);
     return atual().descarte(visao, doDescarte);
 }
 

@@ -17,7 +17,10 @@ class NivelDaMesa : public Nivel {
   public:
     // `enquantoPensa` runs again and again while Forte thinks (the window's events); without
     // it Forte thinks on the caller's thread.
-    explicit NivelDaMesa(const Module1& modulo, std::function<void()> enquantoPensa = {});
+    explicit NivelDaMesa(std::function<void()> enquantoPensa = {})
+        : enquantoPensa_(std::move(enquantoPensa)) {}
+    // The settings whose level it plays; until then, Clássico.
+    void segue(const Module1& modulo) { modulo_ = &modulo; }
 
     bool pegaDescarte(const VisaoDoNivel& visao) override;
     int16 descarte(const VisaoDoNivel& visao, bool doDescarte) override;
@@ -28,9 +31,10 @@ class NivelDaMesa : public Nivel {
 
   private:
     Nivel& atual();
+    bool forte() const { return modulo_ && modulo_->nivel == TipoNivel::Forte; }
     template <class F> auto semTravar(F&& f);
 
-    const Module1& modulo_;
+    const Module1* modulo_ = nullptr;
     Classico classico_;
     Esperto esperto_;
     Forte forte_;

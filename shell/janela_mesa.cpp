@@ -9,6 +9,7 @@
 #include "core/ativacao.h"
 #include "core/compra.h"
 #include "core/pecas.h"
+#include "players/escolha_de_nivel.h"
 #include "players/qt/lugar_da_janela.h"
 #include "shell/ajuda.h"
 #include "table/arraste.h"
@@ -36,6 +37,11 @@ const QColor kBarra(30, 20, 12);
 const QRect kLabel6(122, 299, 531, 15);
 const QRect kPlacar1(15, 288, 40, 34), kPlacar2(15, 110, 38, 34);
 const QRect kLabel10(114, 311, 20, 15), kLabel11(105, 107, 23, 15);
+// Beside the pile, right of it: the opponent's level and the deal, and the hint's command.
+const QRect kNivel(591, 290, 176, 36);
+const QRect kDica(591, 332, 176, 18);
+const QColor kOuroDaDica(250, 214, 90);
+constexpr int kTeclaNivel = Qt::Key_N, kTeclaDica = Qt::Key_D;
 
 int px(float twips) {
     return static_cast<int>(std::floor(twips / kTwipsPorPixel));
@@ -86,6 +92,69 @@ void JanelaMesa::paintEvent(QPaintEvent*) {
     }
     p.setClipping(false);
     desenhaTextos(p);
+    desenhaNivelEDica(p);
+}
+
+void JanelaMesa::desenhaNivelEDica(QPainter& p) {
+    p.resetTransform(); // window pixels, whatever the labels before left
+    const Module1& g = jogo_.modulo;
+    QFont f("DejaVu Sans");
+    f.setPixelSize(12);
+    f.setBold(true);
+    p.setFont(f);
+    p.setPen(kOuroDaDica);
+    const QRect linha1(kNivel.x(), kNivel.y(), kNivel.width(), kNivel.height() / 2);
+    p.drawText(linha1, Qt::AlignLeft | Qt::AlignVCenter,
+               QString::fromStdString(legendaDoNivel(g.nivel)));
+    f.setBold(false);
+    p.setFont(f);
+    p.setPen(QColor(240, 230, 200));
+    p.drawText(linha1.translated(0, linha1.height()), Qt::AlignLeft | Qt::AlignVCenter,
+               QString::fromStdString(legendaDaDistribuicao(g.nivel, g.distribuicaoJusta)));
+    f.setUnderline(true);
+    p.setFont(f);
+    p.drawText(kDica, Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("Dica (D)"));
+    const std::optional<Dica> d = dicaAtual();
+    if (!d) return;
+    // The part to play ringed in gold, and the advice on the warning's line when it is free.
+    p.setRenderHint(QPainter::Antialiasing, true);
+    p.setPen(QPen(kOuroDaDica, 3));
+    p.setBrush(Qt::NoBrush);
+    p.drawRoundedRect(QRectF(retanguloDa(d->peca())).adjusted(-2.5, -2.5, 2.5, 2.5), 6, 6);
+    if (!vista_.cena().textos.avisoVisivel) {
+        f.setUnderline(false);
+        f.setBold(true);
+        p.setFont(f);
+        p.drawText(kLabel6.translated(kPainel), Qt::AlignCenter, QString::fromStdString(d->texto));
+    }
+}
+
+std::vector<int16> JanelaMesa::assinaturaDaMesa() const {
+    const Mesa& m = jogo_.mesa;
+    std::vector<int16> a{m.qtdJog, m.qtdBaralho, jogo_.modulo.qtdDescarte, m.discarteValor,
+                         m.discarteNaipe};
+    for (int i = 1; i <= m.qtdJog; ++i) a.insert(a.end(), {m.jogValor[i], m.jogNaipe[i]});
+    return a;
+}
+
+std::optional<Dica> JanelaMesa::dicaAtual() const {
+    if (!dica_ || assinaturaDaDica_ != assinaturaDaMesa() || jogo_.maosEmJogo) return std::nullopt;
+    return dica_;
+}
+
+void JanelaMesa::abreNivel() {
+    if (jogo_.maosEmJogo) return; // the level changes between turns, never inside one
+    vista_.abreJanela(Janela::FrmNivel);
+    update();
+}
+
+void JanelaMesa::pedeDica() {
+    if (!nivel_) return;
+    Dica d = dicaDoJogador(jogo_, *nivel_);
+    if (d.tipo == Dica::Tipo::Nenhuma) return;
+    dica_ = std::move(d);
+    assinaturaDaDica_ = assinaturaDaMesa();
+    update();
 }
 
 void JanelaMesa::desenhaTextos(QPainter& p) {
@@ -151,6 +220,8 @@ JanelaMesa::Toque JanelaMesa::tocado(QPoint p) const {
     for (int i = 0; i < 7; ++i)
         if (kBotoes[i].contains(p)) return {Alvo::Botao, Peca{Parte::vazio}, i + 1};
     if (kMinimizar.contains(p)) return {Alvo::Minimizar};
+    if (kNivel.contains(p)) return {Alvo::Nivel};
+    if (kDica.contains(p)) return {Alvo::Dica};
     if (kSobre.contains(p)) return {Alvo::Sobre};
     if (kTitulo.contains(p)) return {Alvo::Titulo};
     return {};
@@ -231,12 +302,21 @@ void JanelaMesa::clique(const Toque& t) {
     case Alvo::Sobre:
         vista_.abreJanela(Janela::FrmSobre);
         break;
+    case Alvo::Nivel:
+        abreNivel();
+        break;
+    case Alvo::Dica:
+        pedeDica();
+        break;
     default:
         break;
     }
 }
 
 void JanelaMesa::keyPressEvent(QKeyEvent* e) {
+    const bool soALetra = e->modifiers() == Qt::NoModifier;
+    if (e->key() == kTeclaNivel && soALetra) return abreNivel();
+    if (e->key() == kTeclaDica && soALetra) return pedeDica();
     if (e->key() < Qt::Key_F1 || e->key() > Qt::Key_F10) return QWidget::keyPressEvent(e);
     const int codigo = kTeclaF1 + (e->key() - Qt::Key_F1);
     const int shift = e->modifiers() == Qt::ControlModifier ? kShiftCtrl : 0;

@@ -4,11 +4,13 @@
 #include <QWidget>
 #include <functional>
 #include <optional>
+#include <vector>
 
 #include "core/jogo.h"
 #include "shell/imagens.h"
 #include "shell/vista_qt.h"
 #include "table/comandos.h"
+#include "table/dica.h"
 
 namespace corvina {
 
@@ -23,6 +25,14 @@ class JanelaMesa : public QWidget {
     // Where a part of the table stands on the window, in pixels (for tests and the painter).
     QRect retanguloDa(Peca peca) const;
 
+    // Who answers the hint; without it the hint does nothing.
+    void usaNivel(NivelDaMesa& nivel) { nivel_ = &nivel; }
+    // The level window (key N, or a click on the level shown), and the hint (key D, or a click).
+    void abreNivel();
+    void pedeDica();
+    // The hint on show, if the table still stands as it was asked on.
+    std::optional<Dica> dicaAtual() const;
+
   protected:
     void paintEvent(QPaintEvent*) override;
     void mouseMoveEvent(QMouseEvent* e) override;
@@ -33,7 +43,7 @@ class JanelaMesa : public QWidget {
     void closeEvent(QCloseEvent* e) override;
 
   private:
-    enum class Alvo { Nada, Sprite, Ordenar, Botao, Titulo, Minimizar, Sobre };
+    enum class Alvo { Nada, Sprite, Ordenar, Botao, Titulo, Minimizar, Sobre, Nivel, Dica };
     struct Toque {
         Alvo alvo = Alvo::Nada;
         Peca peca{Parte::vazio};
@@ -43,6 +53,8 @@ class JanelaMesa : public QWidget {
     std::optional<Peca> spriteEm(QPoint p) const;
     QPointF dentroDoMover(QPoint p) const; // twips inside Picmover
     void desenhaTextos(QPainter& p);
+    void desenhaNivelEDica(QPainter& p);
+    std::vector<int16> assinaturaDaMesa() const;
     void clique(const Toque& t);
     void atende(PedidoDaTecla pedido);
 
@@ -53,6 +65,9 @@ class JanelaMesa : public QWidget {
     bool arrastandoMover_ = false;
     bool ativada_ = false;
     std::function<void()> encerra_;
+    NivelDaMesa* nivel_ = nullptr;
+    std::optional<Dica> dica_;
+    std::vector<int16> assinaturaDaDica_; // the table the hint was given on
 };
 
 } // namespace corvina

@@ -1,5 +1,6 @@
 #include "shell/janelas_qt.h"
 
+#include "players/qt/frm_nivel.h"
 #include "players/qt/frm_nome.h"
 #include "players/qt/frm_opc.h"
 #include "players/qt/frm_placar.h"
@@ -33,6 +34,9 @@ void JanelasQt::abre(Janela janela, const Placar& placar) {
         break;
     case Janela::FrmSobre:
         FrmSobre(dono_, versao_).exec();
+        break;
+    case Janela::FrmNivel:
+        FrmNivel(dono_, m, armazem_).exec();
         break;
     }
 }

@@ -8,7 +8,7 @@
 #include <memory>
 
 #include "core/jogo.h"
-#include "machine/classico.h"
+#include "machine/nivel_da_mesa.h"
 #include "players/highcor.h"
 #include "players/qt/pastas.h"
 #include "players/qt/settings.h"
@@ -33,8 +33,9 @@ struct Programa {
     corvina::MusicaFluidSynth musica;
     corvina::Som som{corvina::pastaDosSons().toStdString(), ondas, musica};
     corvina::AcasoDoRelogio acaso;
-    corvina::Classico classico;
-    corvina::Jogo jogo{vista, acaso, classico};
+    // Forte thinks on a thread of its own while the window goes on answering.
+    corvina::NivelDaMesa nivel{[] { QApplication::processEvents(); }};
+    corvina::Jogo jogo{vista, acaso, nivel};
     corvina::JanelasQt janelas;
     corvina::JanelaMesa janela{jogo, vista, imagens};
 
@@ -43,6 +44,8 @@ struct Programa {
         vista.som(&som);
         vista.janelas(&janelas);
         janelas.dono(&janela);
+        nivel.segue(jogo.modulo);
+        janela.usaNivel(nivel);
         // The run ends with the window: no hand in progress is kept, nothing waits.
         janela.aoEncerrar([] {
             std::fflush(nullptr);

@@ -7,6 +7,7 @@
 #include "core/armazem_memoria.h"
 #include "players/dobra_nome.h"
 #include "players/escolha_de_jogador.h"
+#include "players/escolha_de_nivel.h"
 #include "players/hall_da_fama.h"
 #include "players/lista_de_jogadores.h"
 #include "players/novo_jogador.h"
@@ -111,6 +112,38 @@ TEST_F(Jogadores, CancelKeepsTheModeButTheNameFollowsTheSelection) {
     EXPECT_TRUE(m.nomeCancelado);
     EXPECT_EQ(m.nomeJogador, "Bia");
     EXPECT_EQ(m.assistido, 1);
+}
+
+// Each player's opponent and deal: kept under that player's key, brought to the table by the
+// choice of player, and a level's fair deal that Clássico alone may turn off.
+TEST_F(Jogadores, EachPlayerMeetsTheLevelAndDealChosen) {
+    lista({"Ana", "Bia"});
+    m.nomeJogador = "Ana";
+    EscolhaDeNivel n(m, a);
+    EXPECT_EQ(n.nivel(), TipoNivel::Classico);
+    EXPECT_FALSE(n.justa());
+    n.alternaJusta();
+    n.escolhe(TipoNivel::Forte);
+    EXPECT_TRUE(n.justa());
+    EXPECT_FALSE(n.justaEscolhivel()) << "Forte never exchanges: nothing to turn off";
+    n.alternaJusta(); // no effect while Forte is chosen
+    n.confirma();
+    EXPECT_EQ(a.le(chaveJogador("Ana"), "Nivel", ""), "forte");
+    EXPECT_EQ(a.le(chaveJogador("Ana"), "DistribuicaoJusta", ""), "True");
+    EXPECT_EQ(m.nivel, TipoNivel::Forte);
+
+    a.grava(chaveJogador("Bia"), "Nivel", "mestre"); // a name no version wrote: Clássico
+    for (const auto& [linha, nivel, justa] :
+         {std::tuple{1, TipoNivel::Classico, false}, std::tuple{0, TipoNivel::Forte, true}}) {
+        EscolhaDeJogador j = janela();
+        j.carrega(true);
+        j.selecionaLinha(linha);
+        j.jogar();
+        EXPECT_EQ(m.nivel, nivel) << m.nomeJogador;
+        EXPECT_EQ(m.distribuicaoJusta, justa) << m.nomeJogador;
+    }
+    EXPECT_EQ(legendaDaDistribuicao(TipoNivel::Classico, false), "A CPU pode trocar as mãos");
+    EXPECT_EQ(legendaDaDistribuicao(TipoNivel::Esperto, false), "Distribuição justa");
 }
 
 TEST_F(Jogadores, PlayingWithAnEmptyListIsSemNome) {

@@ -145,6 +145,17 @@ QImage janelaSimNao() {
     return fundo({400, 130});
 }
 
+QImage janelaNivel() {
+    QImage img = fundo({380, 270}, 36);
+    QPainter p(&img);
+    p.setRenderHint(QPainter::Antialiasing, true);
+    titulo(p, QRect(14, 4, 340, 32), QStringLiteral("Nível do adversário"), 20);
+    for (int i = 0; i < 3; ++i) caixa(p, QRectF(16, 46 + 56 * i, 348, 50));
+    botao(p, QRect(196, 238, 80, 22), QStringLiteral("Cancelar"));
+    botao(p, QRect(284, 238, 80, 22), QStringLiteral("OK"));
+    return img;
+}
+
 QImage janelaPlacar() {
     QImage img = fundo({345, 176}, 14);
     QPainter p(&img);

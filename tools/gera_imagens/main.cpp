@@ -474,6 +474,7 @@ int main(int argc, char** argv) {
         {"frmrecords", janelaRecords()},   {"frmopc", janelaOpcoes()},
         {"frmtipos", janelaTipos(versos)}, {"frmsimnao", janelaSimNao()},
         {"frmplacar", janelaPlacar()},     {"frmsobre", janelaSobre(versos[3])},
+        {"frmnivel", janelaNivel()},
     };
     for (const auto& j : janelas)
         ok &= grava(j.figura, pasta.filePath(QString("janelas/%1.png").arg(j.nome)));

@@ -1,0 +1,43 @@
+#include "players/escolha_de_nivel.h"
+
+#include "core/ajustes.h"
+
+namespace corvina {
+
+EscolhaDeNivel::EscolhaDeNivel(Module1& modulo, Armazem& armazem)
+    : modulo_(modulo), armazem_(armazem), nivel_(modulo.nivel), justa_(modulo.distribuicaoJusta) {}
+
+void EscolhaDeNivel::alternaJusta() {
+    if (justaEscolhivel()) justa_ = !justa_;
+}
+
+void EscolhaDeNivel::confirma() {
+    modulo_.nivel = nivel_;
+    modulo_.distribuicaoJusta = justa_;
+    const std::string chave = chaveJogador(modulo_.nomeJogador);
+    armazem_.grava(chave, ajuste::kNivel, std::string(chaveDoNivel(nivel_)));
+    armazem_.grava(chave, ajuste::kDistribuicaoJusta, textoBooleano(justa_));
+}
+
+std::string legendaDoNivel(TipoNivel n) {
+    return "Nível: " + std::string(nomeDoNivel(n));
+}
+
+std::string legendaDaDistribuicao(TipoNivel n, bool distribuicaoJusta) {
+    return trocaNaDistribuicao(n, distribuicaoJusta) ? "A CPU pode trocar as mãos"
+                                                     : "Distribuição justa";
+}
+
+std::string descricaoDoNivel(TipoNivel n) {
+    switch (n) {
+    case TipoNivel::Esperto:
+        return "Conta as cartas que faltam e as que já saíram.";
+    case TipoNivel::Forte:
+        return "Pensa duas compras adiante. O mais difícil.";
+    case TipoNivel::Classico:
+        break;
+    }
+    return "A máquina de sempre; pode trocar as mãos.";
+}
+
+} // namespace corvina
