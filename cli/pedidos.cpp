@@ -74,12 +74,23 @@ Requests and answers:
   {"op":"selfplay","seed":S,"matches":N}
       -> {"matches":N,"hands":..,"handsWonJog":..,"handsWonMac":..,"handsNoWinner":..,
           "exchanges":..,"matchesWonJog":..,"matchesWonMac":..,"seconds":..}
-         whole matches, both sides by the machine's rule
-  {"op":"decide","level":"classico","hand":[9 or 10],"pile":"v/n"|null,"drew":"pile"|"stock",
-   "discards":["v/n",...],"opponentTook":["v/n",...],"stock":N,"seed":S}
+         whole matches, both sides by the machine's rule; progress on standard error, and
+         an interrupt answers for the matches played ("interrupted":true)
+  {"op":"decide","level":"classico"|"esperto"|"forte","hand":[9 or 10],"pile":"v/n"|null,
+   "drew":"pile"|"stock","discards":["v/n",...],"opponentTook":["v/n",...],"stock":N,"seed":S,
+   "opponentDiscards":["v/n",...],"took":["v/n",...]}
       -> {"draw":"pile"|"stock"} with 9 cards; {"discard":"v/n"} with 10, the last of them
          the card just drawn ("drew" says from where). One decision of a level from what its
-         seat may know; "esperto" and "forte" are named but do not play yet
+         seat may know; the last two keys are optional: which discards were the opponent's,
+         and what this seat took from the pile
+  {"op":"arena","a":L,"b":L,"pairs":N,"seed":S,"threads":T,"from":F}
+      -> {"handsA":..,"handsB":..,"noWinner":..,"matchesA":..,"matchesB":..,"shareA":..,
+          "ciLow":..,"ciHigh":..,"msMeanA":..,"msP99A":..,"msMeanB":..,"msP99B":..,
+          "pairs":..,"from":..}
+         levels a and b on mirrored deals: pairs F .. F+N-1 of seed S (F is 0 unless given),
+         each shuffle played twice with the seats swapped and no exchange; matches are first
+         to 4 in each seat's run of hands; shareA is of decided hands, with Wilson's 95%
+         interval; progress on standard error, and an interrupt answers for the pairs played
 
 A request that is not valid JSON, names an unknown op, misses a field, or holds a bad card
 or a hand of the wrong size is answered {"error":"..."}, and the next line is read.
@@ -289,16 +300,18 @@ json distribuicao(const Pedido& p) {
 json autojogo(const Pedido& p) {
     const auto semente = static_cast<std::uint64_t>(inteiro(p, "seed", 0, INT64_MAX));
     const long partidas = inteiro(p, "matches", 0, 1000000);
-    const ResumoAutojogo r = autojoga(semente, partidas);
-    return {{"matches", r.partidas},
-            {"hands", r.maos},
-            {"handsWonJog", r.maosJog},
-            {"handsWonMac", r.maosMac},
-            {"handsNoWinner", r.maosSemVencedor},
-            {"exchanges", r.trocas},
-            {"matchesWonJog", r.partidasJog},
-            {"matchesWonMac", r.partidasMac},
-            {"seconds", r.segundos}};
+    const ResumoAutojogo r = autojoga(semente, partidas, sinalDeParada(), progresso("selfplay"));
+    json resposta = {{"matches", r.partidas},
+                     {"hands", r.maos},
+                     {"handsWonJog", r.maosJog},
+                     {"handsWonMac", r.maosMac},
+                     {"handsNoWinner", r.maosSemVencedor},
+                     {"exchanges", r.trocas},
+                     {"matchesWonJog", r.partidasJog},
+                     {"matchesWonMac", r.partidasMac},
+                     {"seconds", r.segundos}};
+    if (r.interrompido) resposta["interrupted"] = true;
+    return resposta;
 }
 
 json arena(const Pedido& p) {

@@ -37,7 +37,8 @@ void jogaPeloJogador(Jogo& jogo) {
     jogaPeloJogador(jogo, classico);
 }
 
-ResumoAutojogo autojoga(std::uint64_t semente, long partidas) {
+ResumoAutojogo autojoga(std::uint64_t semente, long partidas, const std::atomic<bool>* parar,
+                        const std::function<void(long, long)>& progresso) {
     const auto inicio = std::chrono::steady_clock::now();
     ResumoAutojogo r;
     AcasoSemente acaso(semente);
@@ -60,6 +61,7 @@ ResumoAutojogo autojoga(std::uint64_t semente, long partidas) {
         ++r.partidas;
         ++(pontosJog == kPontosDaPartida ? r.partidasJog : r.partidasMac);
         pontosJog = pontosMac = 0;
+        if (progresso) progresso(r.partidas, partidas);
     };
     vista.aoPerguntar = [&](const std::string& texto) {
         if (texto == texto::kAcabouBaralhoJog || texto == texto::kAcabouBaralhoMac) {
@@ -72,6 +74,10 @@ ResumoAutojogo autojoga(std::uint64_t semente, long partidas) {
 
     Form_Activate(jogo);
     while (r.partidas < partidas) {
+        if (parar && parar->load() && turnosNaMao == 0) {
+            r.interrompido = true;
+            break;
+        }
         if (++turnosNaMao > kTurnosPorMaoNoMaximo)
             throw std::logic_error("a hand of the self-play never ended");
         jogaPeloJogador(jogo, jogador);

@@ -3,7 +3,9 @@
 // reaches: a click on the pile or the stock, then a discard. It reads only the player's own
 // cards, the top of the pile and the card it drew.
 
+#include <atomic>
 #include <cstdint>
+#include <functional>
 
 #include "core/jogo.h"
 
@@ -25,10 +27,15 @@ struct ResumoAutojogo {
     long partidasJog = 0;
     long partidasMac = 0;
     double segundos = 0;
+    bool interrompido = false;
 };
 
 // Whole matches from a seed, both sides by the machine's rule, through a view that draws
 // nothing: what the deal's exchange does to two equal players.
-ResumoAutojogo autojoga(std::uint64_t semente, long partidas);
+// `parar` ends it after the hand in play, with the figures so far; `progresso` hears of every
+// match finished (matches done, matches asked).
+ResumoAutojogo autojoga(std::uint64_t semente, long partidas,
+                        const std::atomic<bool>* parar = nullptr,
+                        const std::function<void(long, long)>& progresso = {});
 
 } // namespace corvina

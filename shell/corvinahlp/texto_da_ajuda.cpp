@@ -52,6 +52,28 @@ termina sem vencedor. O <b>Hall da Fama</b> (RECORDES) mostra os seis melhores s
 quantas trincas você já formou, e o botão <b>Ordenar</b> arruma a sua mão: a cada clique ele
 tenta outra ordem e junta as trincas lado a lado.</p>
 
+<h2>O adversário e a distribuição</h2>
+<p>À direita do descarte a mesa mostra contra quem você joga e como as cartas são dadas.
+Clique ali, ou tecle <b>N</b>, para escolher o nível; a escolha fica guardada com o seu nome.</p>
+<ul>
+<li><b>Clássico</b>: a máquina de sempre. Só pega uma carta se ela aumentar a contagem da mão
+dela. Na distribuição, se a sua mão vier melhor que a dela, a máquina pode ficar com a sua
+(mais vezes quando você está na frente do placar).</li>
+<li><b>Esperto</b>: conta quantas cartas faltam para as três trincas, lembrando das duas
+cópias de cada carta e de tudo o que já foi descartado, e evita dar a você o que você recolhe.
+Nunca troca as mãos.</li>
+<li><b>Forte</b>: pensa duas compras adiante, pesando cada carta que ainda pode vir. O mais
+difícil. Nunca troca as mãos.</li>
+</ul>
+<p><b>Distribuição justa</b>: marque-a na janela do nível para que o Clássico também jogue
+com as cartas como vieram. A mesa diz <i>Distribuição justa</i>, ou <i>A CPU pode trocar as
+mãos</i> quando a troca está ligada.</p>
+
+<h2>Dica</h2>
+<p>Tecle <b>D</b>, ou clique em <i>Dica</i>, e o nível Forte mostra o que faria no seu lugar:
+um aro dourado marca o baralho, o descarte ou a carta a descartar, e a linha acima das suas
+cartas diz a jogada. A dica nunca joga por você, e some assim que a mesa muda.</p>
+
 <h2>Teclas</h2>
 <table cellspacing="4">
 <tr><td><b>F2</b></td><td>escolher o verso das cartas</td></tr>
@@ -62,6 +84,8 @@ tenta outra ordem e junta as trincas lado a lado.</p>
 <tr><td><b>F7, F8</b></td><td>verso anterior, próximo verso</td></tr>
 <tr><td><b>F9</b></td><td>mostrar ou esconder o valor das mãos</td></tr>
 <tr><td><b>F10</b></td><td>fechar o Corvina</td></tr>
+<tr><td><b>N</b></td><td>nível do adversário e distribuição justa</td></tr>
+<tr><td><b>D</b></td><td>dica para a sua jogada</td></tr>
 </table>
 )");
 }

@@ -22,6 +22,7 @@
 #include "core/pecas.h"
 #include "machine/autojogador.h"
 #include "machine/classico.h"
+#include "players/qt/frm_nivel.h"
 #include "players/qt/frm_nome.h"
 #include "players/qt/frm_novo_jogador.h"
 #include "players/qt/frm_opc.h"
@@ -330,8 +331,9 @@ TEST(Textos, EveryTextFitsItsPlace) {
     FrmRecords records(nullptr, m, a, nullptr);
     FrmSobre sobre(nullptr, versaoDoPrograma());
     FrmUp up(nullptr, "https://127.0.0.1:1/x.deb", "");
-    for (QWidget* w :
-         std::initializer_list<QWidget*>{&nome, &novo, &opc, &placar, &records, &sobre, &up})
+    FrmNivel nivel(nullptr, m, a);
+    for (QWidget* w : std::initializer_list<QWidget*>{&nome, &novo, &opc, &placar, &records, &sobre,
+                                                      &up, &nivel})
         confereTextos(w);
     quandoAbrir("FrmSimNao", [](QWidget* w) {
         confereTextos(w);

@@ -8,10 +8,12 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QTemporaryDir>
+#include <algorithm>
 
 #include "core/ajustes.h"
 #include "core/pecas.h"
-#include "machine/classico.h"
+#include "machine/nivel_da_mesa.h"
+#include "players/qt/frm_nivel.h"
 #include "players/qt/settings.h"
 #include "shell/imagens.h"
 #include "shell/janela_mesa.h"
@@ -26,15 +28,19 @@ struct MesaNaTela {
     Imagens imagens{pastaDeImagens()};
     VistaQt vista{settings};
     AcasoSemente acaso{7};
-    Classico classico;
-    Jogo jogo{vista, acaso, classico};
+    NivelDaMesa nivel;
+    Jogo jogo{vista, acaso, nivel};
     JanelaMesa janela{jogo, vista, imagens};
+    std::vector<Janela> abertas;
 
     MesaNaTela() {
+        nivel.segue(jogo.modulo);
+        janela.usaNivel(nivel);
         vista.liga(jogo);
         vista.modoDeTeste(true);
         // The choice of player as the last one; the other windows close at once.
         vista.aoAbrirJanela = [this](Janela j) {
+            abertas.push_back(j);
             if (j == Janela::FrmNome)
                 jogo.modulo.nomeJogador = settings.le(chaveBase(), ajuste::kUltimoJogador, "");
         };
@@ -155,6 +161,44 @@ TEST(MesaNaTela, TheHintTheCountsAndTheToolbarsLightAnswerTheRealKeysAndMouse) {
         EXPECT_NE(agora, antes) << "the light moved on the picture";
         antes = agora;
     }
+}
+
+// The level window from its key and from the table's own display of the level, the choice
+// kept under the player's key; the hint marks Forte's choice on the picture and leaves as
+// soon as the table changes, without ever making the move.
+TEST(MesaNaTela, TheLevelWindowAndTheHint) {
+    MesaNaTela t;
+    t.tecla(Qt::Key_N);
+    t.clica({600, 300}); // "Nível: Clássico", right of the pile
+    EXPECT_EQ(std::count(t.abertas.begin(), t.abertas.end(), Janela::FrmNivel), 2);
+
+    FrmNivel nivel(&t.janela, t.jogo.modulo, t.settings);
+    for (const Qt::Key k : {Qt::Key_F, Qt::Key_Return}) {
+        QKeyEvent e(QEvent::KeyPress, k, Qt::NoModifier);
+        QApplication::sendEvent(&nivel, &e);
+    }
+    EXPECT_EQ(t.jogo.modulo.nivel, TipoNivel::Forte);
+    EXPECT_EQ(t.settings.le(chaveJogador("Teste"), ajuste::kNivel, ""), "forte");
+
+    ASSERT_EQ(t.jogo.mesa.qtdJog, 9);
+    t.tecla(Qt::Key_D);
+    ASSERT_TRUE(t.janela.dicaAtual());
+    EXPECT_EQ(t.janela.dicaAtual()->tipo, Dica::Tipo::Baralho) << "the pile is empty";
+    EXPECT_EQ(t.jogo.mesa.qtdJog, 9) << "a hint never moves";
+    t.clica(t.janela.retanguloDa(peca::kCostas2).center());
+    ASSERT_EQ(t.jogo.mesa.qtdJog, 10);
+    EXPECT_FALSE(t.janela.dicaAtual()) << "the table changed: the hint is gone";
+
+    t.clica({640, 341}); // "Dica (D)"
+    ASSERT_TRUE(t.janela.dicaAtual());
+    const Dica d = *t.janela.dicaAtual();
+    ASSERT_EQ(d.tipo, Dica::Tipo::Carta);
+    EXPECT_EQ(d.texto.rfind("Dica: descarte ", 0), 0u) << d.texto;
+    EXPECT_EQ(t.jogo.mesa.qtdJog, 10);
+    // The gold ring just left of the card marked.
+    const QRect carta = t.janela.retanguloDa(peca::cj(d.casa));
+    const QImage quadro = t.janela.grab().toImage();
+    EXPECT_EQ(quadro.pixelColor(carta.left() - 2, carta.center().y()), QColor(250, 214, 90));
 }
 
 TEST(MesaNaTela, ANewMatchWithTenCardsInHandDealsNineAgain) {
