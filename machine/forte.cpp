@@ -26,19 +26,12 @@ double valorDeNove(const Copias& nove, const Copias& invisiveis, int total) {
 } // namespace
 
 double valorDeDez(Copias dez, const Copias& invisiveis, int total) {
-    // The throws that leave the fewest missing, and of those the one with most ways in.
-    std::array<int, kTipos> faltam{};
-    int menor = kCartasDasTrincas + 1;
-    for (int t = 0; t < kTipos; ++t) {
-        if (dez[t] == 0) continue;
-        --dez[t];
-        faltam[t] = distancia(dez, invisiveis, false).faltam;
-        ++dez[t];
-        menor = std::min(menor, faltam[t]);
-    }
+    // The cards one best layout leaves out: throwing any of them keeps the fewest missing; of
+    // those, the throw that leaves the most ways in.
+    const Distancia d = distancia(dez, invisiveis, false);
     double melhor = kCartasDasTrincas + 1;
     for (int t = 0; t < kTipos; ++t) {
-        if (dez[t] == 0 || faltam[t] != menor) continue;
+        if (dez[t] <= d.usadas[t]) continue;
         --dez[t];
         melhor = std::min(melhor, valorDeNove(dez, invisiveis, total));
         ++dez[t];
@@ -51,9 +44,15 @@ double valorDaCompra(const Copias& nove, Copias invisiveis) {
     if (total == 0) return valorDeNove(nove, invisiveis, 0);
     double valor = 0;
     Copias dez = nove;
+    // A card that shares no trinca with the hand goes straight back: the nine stay as they are.
+    const double semParceira = valorDeNove(nove, invisiveis, total - 1);
     for (int t = 0; t < kTipos; ++t) {
         if (invisiveis[t] == 0) continue;
         const int peso = invisiveis[t];
+        if (parceiras(t, nove) == 0) {
+            valor += peso * semParceira;
+            continue;
+        }
         ++dez[t];
         --invisiveis[t];
         valor += peso * valorDeDez(dez, invisiveis, total - 1);
