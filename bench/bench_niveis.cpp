@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/visao_do_nivel.h"
+#include "machine/arena.h"
 #include "machine/distancia.h"
 #include "machine/esperto.h"
 #include "machine/forte.h"
@@ -79,6 +80,23 @@ void forteCompra(benchmark::State& estado) {
     decisao(estado, f, kCartasNaMao);
 }
 BENCHMARK(forteCompra)->Name("niveis/forte_compra")->Unit(benchmark::kMillisecond);
+
+// Mirrored pairs a second with 1 and 2 threads: how the arena spreads over the cores.
+void arenaEmThreads(benchmark::State& estado) {
+    PedidoArena p;
+    p.a = TipoNivel::Esperto;
+    p.b = TipoNivel::Classico;
+    p.pares = 40;
+    p.threads = static_cast<int>(estado.range(0));
+    for (auto _ : estado) benchmark::DoNotOptimize(arena(p).maosA);
+    estado.SetItemsProcessed(estado.iterations() * p.pares);
+}
+BENCHMARK(arenaEmThreads)
+    ->Name("niveis/arena_pares")
+    ->Arg(1)
+    ->Arg(2)
+    ->UseRealTime()
+    ->Unit(benchmark::kMillisecond);
 
 } // namespace
 } // namespace corvina
