@@ -4,7 +4,6 @@
 #include <tuple>
 
 #include "machine/conta_mao.h"
-#include "machine/contagem.h"
 #include "machine/vale.h"
 
 namespace corvina {

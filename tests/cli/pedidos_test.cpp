@@ -86,6 +86,12 @@ INSTANTIATE_TEST_SUITE_P(
         Caso{R"({"op":"hallDaFama","jogadores":[{"nome":"A","saldo":1.5}],"nomeJogador":""})",
              R"({"error":"\"saldo\" must be a whole number or a text"})"},
         Caso{R"({"op":"fly"})", R"({"error":"unknown op \"fly\""})"},
+        Caso{
+            R"({"op":"decide","level":"esperto","hand":["7/1","7/2","7/3","1/4","2/4","3/4","5/3","6/3","4/3","13/2"],"pile":null,"drew":"stock","discards":[],"opponentTook":[],"stock":40})",
+            R"({"discard":"13/2"})"},
+        Caso{
+            R"({"op":"decide","level":"forte","hand":["7/1","7/2","7/3","1/4","2/4","3/4","5/3","6/3","11/1"],"pile":"4/3","discards":["4/3"],"opponentTook":[],"stock":40})",
+            R"({"draw":"pile"})"},
         Caso{R"({"op":"decide","level":"mestre","hand":[],"pile":null})",
              R"({"error":"\"level\" must be \"classico\", \"esperto\" or \"forte\""})"},
         Caso{R"({"op":"arena","a":"forte","b":"classico","pairs":0,"seed":1})",
