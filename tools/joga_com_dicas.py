@@ -55,6 +55,15 @@ def registro(conf, nome="Jogador"):
     return sum(int(v) for v in valores)
 
 
+def nivel_guardado(conf, nome="Jogador"):
+    try:
+        texto = open(conf, encoding="utf-8").read()
+    except OSError:
+        return ""
+    m = re.search("^" + re.escape(nome) + r"\\nivel=(\w+)", texto, re.M | re.I)
+    return m[1] if m else ""
+
+
 def main():
     programa, nivel = sys.argv[1], sys.argv[2]
     fotos = sys.argv[3] if len(sys.argv) > 3 else "/tmp"
@@ -67,11 +76,20 @@ def main():
     x("key", "Return")
     time.sleep(1.5)
     antes = registro(conf)
-    x("key", "n")
-    time.sleep(0.8)
-    x("key", {"classico": "c", "esperto": "e", "forte": "f"}[nivel])
-    x("key", "Return")
-    time.sleep(0.5)
+    # The level window: N, the level's first letter, Enter; the store tells when it took.
+    for _ in range(10):
+        if nivel_guardado(conf) == nivel:
+            break
+        x("key", "Escape")
+        x("key", "n")
+        time.sleep(1)
+        x("key", {"classico": "c", "esperto": "e", "forte": "f"}[nivel])
+        x("key", "Return")
+        time.sleep(1)
+    else:
+        print(f"{nivel}: the level window did not take the choice")
+        jogo.terminate()
+        return 1
     foto = os.path.join(fotos, f"partida-{nivel}.png")
     jogadas = 0
     for _ in range(800):
