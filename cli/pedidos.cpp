@@ -89,8 +89,9 @@ Requests and answers:
           "pairs":..,"from":..}
          levels a and b on mirrored deals: pairs F .. F+N-1 of seed S (F is 0 unless given),
          each shuffle played twice with the seats swapped and no exchange; matches are first
-         to 4 in each seat's run of hands; shareA is of decided hands, with Wilson's 95%
-         interval; progress on standard error, and an interrupt answers for the pairs played
+         to 4 in each seat's run of hands; shareA is of decided hands, with its 95%
+         interval taken over pairs (the two hands of a pair share their deal); progress
+         on standard error, and an interrupt answers for the pairs played
 
 A request that is not valid JSON, names an unknown op, misses a field, or holds a bad card
 or a hand of the wrong size is answered {"error":"..."}, and the next line is read.

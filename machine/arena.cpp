@@ -175,12 +175,22 @@ ResultadoArena arena(const PedidoArena& p, const std::atomic<bool>* parar,
     contaPartidas(comBFrente, false, r);
     const double n = static_cast<double>(r.maosA + r.maosB);
     if (n > 0) {
-        const double q = static_cast<double>(r.maosA) / n, z2 = kZ95 * kZ95;
-        const double centro = (q + z2 / (2 * n)) / (1 + z2 / n);
-        const double meia = kZ95 * std::sqrt(q * (1 - q) / n + z2 / (4 * n * n)) / (1 + z2 / n);
+        // The two hands of a pair share their deal, so the pair is the unit: the share is a
+        // ratio of sums over pairs, its variance taken from each pair's departure from it.
+        const double q = static_cast<double>(r.maosA) / n;
+        double desvios = 0;
+        for (const Par& par : pares) {
+            if (!par.feito) continue;
+            const int ganhas = (par.aNaFrente == Vencedor::Jog) + (par.bNaFrente == Vencedor::Mac);
+            const int decididas =
+                (par.aNaFrente != Vencedor::Ninguem) + (par.bNaFrente != Vencedor::Ninguem);
+            const double d = ganhas - q * decididas;
+            desvios += d * d;
+        }
+        const double meia = kZ95 * std::sqrt(desvios) / n;
         r.shareA = q;
-        r.ciLow = centro - meia;
-        r.ciHigh = centro + meia;
+        r.ciLow = std::max(0.0, q - meia);
+        r.ciHigh = std::min(1.0, q + meia);
     }
     std::vector<float> ta, tb;
     for (Tempos& t : tempos) {

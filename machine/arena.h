@@ -31,7 +31,7 @@ struct ResultadoArena {
     long pares = 0; // played to the end; fewer than asked when interrupted
     long maosA = 0, maosB = 0, semVencedor = 0;
     long partidasA = 0, partidasB = 0;        // first to 4, in each seat's run of hands
-    double shareA = 0, ciLow = 0, ciHigh = 0; // of decided hands, Wilson's 95% interval
+    double shareA = 0, ciLow = 0, ciHigh = 0; // of decided hands; 95%, over pairs
     double msMeanA = 0, msP99A = 0, msMeanB = 0, msP99B = 0;
     bool interrompida = false;
 };

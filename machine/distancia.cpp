@@ -59,29 +59,23 @@ class Busca {
         : resto_(mao), podemVir_(podemVir), comUteis_(comUteis) {
         std::uint64_t naMao = 0;
         for (int k = 0; k < kTipos; ++k) {
-            if (mao[k] > 0) naMao |= std::uint64_t{1} << k;
+            if (mao[k] > 0) {
+                naMao |= std::uint64_t{1} << k;
+                naMao_[qtdNaMao_++] = static_cast<std::uint8_t>(k);
+            }
             if (podemVir[k] > 0) todosQueVem_ |= std::uint64_t{1} << k;
         }
-        for (int k = 0; k < kTipos; ++k)
-            if (mao[k] > 0) naMao_[qtdNaMao_++] = static_cast<std::uint8_t>(k);
+        std::array<std::uint8_t, kTrincasPossiveis> juntas{};
         for (int i = 0; i < kTrincasPossiveis; ++i) {
-            int juntas = 0;
             for (const std::uint8_t k : kTabela.trincas[i])
-                juntas += static_cast<int>(naMao >> k & 1);
-            if (juntas < 2) continue;
+                juntas[i] = static_cast<std::uint8_t>(juntas[i] + (naMao >> k & 1));
+            if (juntas[i] < 2) continue;
             varias_[qtdVarias_++] = static_cast<std::uint8_t>(i);
-            maisJuntas_ = std::max(maisJuntas_, juntas);
+            maisJuntas_ = std::max<int>(maisJuntas_, juntas[i]);
         }
         // Those that take three first: a good layout found early prunes the rest.
-        std::stable_sort(varias_.begin(), varias_.begin() + qtdVarias_, [&](int a, int b) {
-            const auto juntas = [&](int i) {
-                int n = 0;
-                for (const std::uint8_t k : kTabela.trincas[i])
-                    n += static_cast<int>(naMao >> k & 1);
-                return n;
-            };
-            return juntas(a) > juntas(b);
-        });
+        std::stable_sort(varias_.begin(), varias_.begin() + qtdVarias_,
+                         [&](int a, int b) { return juntas[a] > juntas[b]; });
     }
 
     Distancia resolve() {

@@ -123,8 +123,9 @@ TEST(Arena, EqualLevelsSplitMirroredDealsExactly) {
         EXPECT_EQ(r.partidasA, r.partidasB) << chaveDoNivel(n);
         EXPECT_EQ(r.maosA + r.maosB + r.semVencedor, 80);
         EXPECT_DOUBLE_EQ(r.shareA, 0.5);
-        EXPECT_LT(r.ciLow, 0.5);
-        EXPECT_GT(r.ciHigh, 0.5);
+        // Every pair splits: over pairs there is no doubt left at all.
+        EXPECT_DOUBLE_EQ(r.ciLow, 0.5);
+        EXPECT_DOUBLE_EQ(r.ciHigh, 0.5);
     }
 }
 
