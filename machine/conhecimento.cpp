@@ -18,7 +18,6 @@ Conhecimento conhecimentoDe(const VisaoDoNivel& v) {
     const Copias tomadasDoOutro = copiasDe(v.tomadasPeloOutro);
     const Copias tomadasProprias = copiasDe(v.tomadasProprias);
     const Copias jogadasPeloOutro = copiasDe(v.descartesDoOutro);
-    int conhecidasDoOutro = 0;
     for (int t = 0; t < kTipos; ++t) {
         int pilha = descartadas[t] - tomadasDoOutro[t] - tomadasProprias[t];
         int outro = tomadasDoOutro[t] - jogadasPeloOutro[t];
@@ -31,9 +30,7 @@ Conhecimento conhecimentoDe(const VisaoDoNivel& v) {
         k.naPilha[t] = static_cast<std::uint8_t>(pilha);
         k.doOutro[t] = static_cast<std::uint8_t>(outro);
         k.invisiveis[t] = static_cast<std::uint8_t>(std::max(livres, 0));
-        conhecidasDoOutro += outro;
     }
-    k.ocultasDoOutro = std::max(0, kCartasNaMao - conhecidasDoOutro);
     return k;
 }
 

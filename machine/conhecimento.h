@@ -10,10 +10,9 @@ namespace corvina {
 
 struct Conhecimento {
     Copias mao{};
-    Copias naPilha{};       // thrown and not taken back; the top among them
-    Copias doOutro{};       // taken from the pile by the other side and not thrown again
-    Copias invisiveis{};    // neither in sight nor known: in the stock or in the other hand
-    int ocultasDoOutro = 0; // cards of the other hand this side has never seen
+    Copias naPilha{};    // thrown and not taken back; the top among them
+    Copias doOutro{};    // taken from the pile by the other side and not thrown again
+    Copias invisiveis{}; // neither in sight nor known: in the stock or in the other hand
 };
 
 Conhecimento conhecimentoDe(const VisaoDoNivel& visao);

@@ -60,9 +60,7 @@ bool Esperto::pegaDescarte(const VisaoDoNivel& visao) {
     // The top moves from the pile into the hand; what may come stays as it was.
     std::vector<Carta> dez = visao.mao;
     dez.push_back(*visao.topo);
-    const int t = tipoDaCarta(*visao.topo);
-    if (k.naPilha[t] > 0) --k.naPilha[t];
-    ++k.mao[t];
+    ++k.mao[tipoDaCarta(*visao.topo)];
     const Avaliacao depois = avaliaDescartes(dez, k).front();
     return depois.casa != kCasaCompra && (depois.vence || depois.faltam < agora.faltam);
 }

@@ -26,6 +26,29 @@ VisaoDoNivel visao(const char* mao, const char* topo, const char* descartes) {
     return v;
 }
 
+// What a seat knows: the pile is what was thrown less what either side took back, the other
+// side holds what it took and did not throw again, and the rest is unseen.
+TEST(Conhecimento, PlacesEveryCardThatWasSeen) {
+    VisaoDoNivel v = visao("7/1 7/2 1/4 2/4 3/4 5/3 6/3 9/1 11/2", "", "4/3 7/3 9/1 12/2 12/2");
+    v.tomadasPeloOutro = cartas("7/3 12/2");
+    v.descartesDoOutro = cartas("4/3 12/2");
+    v.tomadasProprias = cartas("9/1");
+    const Conhecimento k = conhecimentoDe(v);
+    const auto de = [](const Copias& c, const char* carta) {
+        return static_cast<int>(c[tipoDaCarta(cartas(carta).front())]);
+    };
+    EXPECT_EQ(de(k.naPilha, "4/3"), 1);
+    EXPECT_EQ(de(k.naPilha, "12/2"), 1) << "one queen thrown twice, taken back once";
+    EXPECT_EQ(de(k.naPilha, "9/1"), 0) << "taken back by this side: in its hand";
+    EXPECT_EQ(de(k.doOutro, "7/3"), 1);
+    EXPECT_EQ(de(k.doOutro, "12/2"), 0) << "taken, then thrown again";
+    EXPECT_EQ(de(k.invisiveis, "7/3"), 1);
+    EXPECT_EQ(de(k.invisiveis, "9/1"), 1);
+    EXPECT_EQ(de(k.invisiveis, "4/3"), 1);
+    EXPECT_EQ(de(k.invisiveis, "12/2"), 1);
+    EXPECT_EQ(de(k.invisiveis, "13/4"), 2);
+}
+
 struct CasoCompra {
     const char* mao;
     const char* topo;
