@@ -9,15 +9,9 @@ namespace {
 inline constexpr auto kPausaDoPensamento = std::chrono::milliseconds(5);
 }
 
-Nivel& NivelDaMesa::atual() {
-    switch (modulo_ ? modulo_->nivel : TipoNivel::Classico) {
-    case TipoNivel::Esperto:
-        return esperto_;
-    case TipoNivel::Forte:
-        return forte_;
-    case TipoNivel::Classico:
-        break;
-    }
+// The levels that answer at once; Forte goes through semTravar.
+Nivel& NivelDaMesa::imediato() {
+    if (modulo_ && modulo_->nivel == TipoNivel::Esperto) return esperto_;
     return classico_;
 }
 
@@ -31,12 +25,12 @@ template <class F> auto NivelDaMesa::semTravar(F&& f) {
 
 bool NivelDaMesa::pegaDescarte(const VisaoDoNivel& visao) {
     if (forte()) return fortePegaDescarte(visao);
-    return atual().pegaDescarte(visao);
+    return imediato().pegaDescarte(visao);
 }
 
 int16 NivelDaMesa::descarte(const VisaoDoNivel& visao, bool doDescarte) {
     if (forte()) return forteDescarta(visao, doDescarte);
-    return atual().descarte(visao, doDescarte);
+    return imediato().descarte(visao, doDescarte);
 }
 
 bool NivelDaMesa::fortePegaDescarte(const VisaoDoNivel& visao) {

@@ -30,7 +30,7 @@ class NivelDaMesa : public Nivel {
     int16 forteDescarta(const VisaoDoNivel& visao, bool doDescarte);
 
   private:
-    Nivel& atual();
+    Nivel& imediato();
     bool forte() const { return modulo_ && modulo_->nivel == TipoNivel::Forte; }
     template <class F> auto semTravar(F&& f);
 

@@ -7,8 +7,10 @@
 
 #include "apoio/maos.h"
 #include "machine/arena.h"
+#include "machine/classico.h"
 #include "machine/esperto.h"
 #include "machine/forte.h"
+#include "machine/nivel_da_mesa.h"
 
 namespace corvina {
 namespace {
@@ -130,6 +132,27 @@ TEST(Forte, TakesThePileWhenItFinishesAndLeavesItWhenItHelpsNothing) {
     EXPECT_TRUE(f.pegaDescarte(visao("7/1 7/2 7/3 1/4 2/4 3/4 5/3 6/3 11/1", "4/3", "")));
     EXPECT_FALSE(f.pegaDescarte(visao("7/1 7/2 7/3 1/4 2/4 3/4 5/3 6/3 11/1", "13/2", "")));
     EXPECT_EQ(f.descarte(visao("7/1 7/2 7/3 1/4 2/4 3/4 5/3 6/3 4/3 13/2", "", ""), false), 10);
+}
+
+// The table's seat plays the level chosen at the moment of each decision, Forte on a thread of
+// its own while the window's events run.
+TEST(NivelDaMesa, PlaysTheLevelChosenAtEachDecision) {
+    const VisaoDoNivel v = visao("7/1 7/2 7/3 1/4 2/4 3/4 5/3 6/3 11/1 1/1", "", "");
+    Module1 m;
+    int eventos = 0;
+    NivelDaMesa seat([&] { ++eventos; });
+    seat.segue(m);
+    Classico c;
+    Esperto e;
+    Forte f;
+    for (const TipoNivel n : kNiveis) {
+        m.nivel = n;
+        Nivel& sozinho = n == TipoNivel::Classico  ? static_cast<Nivel&>(c)
+                         : n == TipoNivel::Esperto ? static_cast<Nivel&>(e)
+                                                   : static_cast<Nivel&>(f);
+        EXPECT_EQ(seat.descarte(v, false), sozinho.descarte(v, false)) << chaveDoNivel(n);
+    }
+    EXPECT_EQ(seat.descarte(v, false), 10) << "Forte throws the ace of hearts, which helps nothing";
 }
 
 // Equal levels on mirrored deals: whatever one seat wins on a deal, the other wins on its
