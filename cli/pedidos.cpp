@@ -231,9 +231,9 @@ TipoNivel tipoDoNivel(const Pedido& p, const char* nome) {
 
 json decide(const Pedido& p) {
     const TipoNivel tipo = tipoDoNivel(p, "level");
-    const auto semente =
-        p.contains("seed") ? static_cast<std::uint64_t>(inteiro(p, "seed", 0, INT64_MAX)) : 0;
-    const std::unique_ptr<Nivel> nivel = criaNivel(tipo, semente);
+    // A seed is taken and checked for the requests that carry one; no level draws on chance.
+    if (p.contains("seed")) inteiro(p, "seed", 0, INT64_MAX);
+    const std::unique_ptr<Nivel> nivel = criaNivel(tipo);
     VisaoDoNivel v;
     v.mao = cartas(p, "hand", {kCartasNaMao, kCasaCompra});
     const Pedido& pilha = campo(p, "pile");

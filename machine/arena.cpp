@@ -60,7 +60,7 @@ struct Tempos {
 
 Par jogaPar(const PedidoArena& p, long i, Tempos& t) {
     const std::uint64_t semente = sementeDoPar(p.semente, i);
-    const auto la = criaNivel(p.a, semente), lb = criaNivel(p.b, semente);
+    const auto la = criaNivel(p.a), lb = criaNivel(p.b);
     NivelCronometrado a(*la, t.a), b(*lb, t.b);
     Par r;
     r.aNaFrente = jogaUmaMao(a, b, semente);

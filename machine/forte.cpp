@@ -69,7 +69,7 @@ bool Forte::pegaDescarte(const VisaoDoNivel& visao) {
     ++dez[tipoDaCarta(*visao.topo)];
     // The top lies in the pile, out of what may come, before and after it is taken.
     const double pega = valorDeDez(dez, k.invisiveis, soma(k.invisiveis));
-    return pega < valorDaCompra(k.mao, k.invisiveis) - p_.vantagemMinima;
+    return pega < valorDaCompra(k.mao, k.invisiveis);
 }
 
 int16 Forte::descarte(const VisaoDoNivel& visao, bool) {

@@ -10,8 +10,7 @@
 namespace corvina {
 
 struct ParametrosForte {
-    int candidatos = 4;        // throws weighed: Esperto's best few, one per kind
-    double vantagemMinima = 0; // cards of advantage the pile's top must bring to be taken
+    int candidatos = 4; // throws weighed: Esperto's best few, one per kind
 };
 
 class Forte : public Nivel {

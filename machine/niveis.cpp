@@ -6,7 +6,7 @@
 
 namespace corvina {
 
-std::unique_ptr<Nivel> criaNivel(TipoNivel n, std::uint64_t) {
+std::unique_ptr<Nivel> criaNivel(TipoNivel n) {
     switch (n) {
     case TipoNivel::Esperto:
         return std::make_unique<Esperto>();

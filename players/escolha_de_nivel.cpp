@@ -29,15 +29,12 @@ std::string legendaDaDistribuicao(TipoNivel n, bool distribuicaoJusta) {
 }
 
 std::string descricaoDoNivel(TipoNivel n) {
-    switch (n) {
-    case TipoNivel::Esperto:
-        return "Conta as cartas que faltam e as que já saíram.";
-    case TipoNivel::Forte:
-        return "Pensa duas compras adiante. O mais difícil.";
-    case TipoNivel::Classico:
-        break;
-    }
-    return "A máquina de sempre; pode trocar as mãos.";
+    static_assert(static_cast<int>(TipoNivel::Classico) == 0 &&
+                  static_cast<int>(TipoNivel::Forte) == 2);
+    constexpr const char* kDescricoes[] = {"A máquina de sempre; pode trocar as mãos.",
+                                           "Conta as cartas que faltam e as que já saíram.",
+                                           "Pensa duas compras adiante. O mais difícil."};
+    return kDescricoes[static_cast<int>(n)];
 }
 
 } // namespace corvina
