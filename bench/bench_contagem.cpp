@@ -8,8 +8,7 @@
 #include <random>
 #include <vector>
 
-#include "machine/contagem.h"
-#include "machine/contagem_literal.h"
+#include "core/contagem.h"
 
 namespace corvina {
 namespace {

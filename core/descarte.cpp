@@ -3,14 +3,14 @@
 #include <optional>
 
 #include "core/compra.h"
+#include "core/contagem.h"
 #include "core/finaliza.h"
 #include "core/novojogo.h"
 #include "core/pecas.h"
 #include "core/pilha.h"
 #include "core/textos.h"
+#include "core/trincas.h"
 #include "core/vez_da_maquina.h"
-#include "machine/contagem.h"
-#include "machine/vale.h"
 
 namespace corvina {
 

@@ -1,6 +1,6 @@
 #include "core/distribue.h"
 
-#include "machine/contagem.h"
+#include "core/contagem.h"
 
 namespace corvina {
 

@@ -1,8 +1,8 @@
 #include "core/finaliza.h"
 
+#include "core/agrupa_mac.h"
 #include "core/ajustes.h"
 #include "core/textos.h"
-#include "machine/agrupa_mac.h"
 
 namespace corvina {
 

@@ -1,11 +1,11 @@
 #include "core/novojogo.h"
 
+#include "core/contagem.h"
 #include "core/distribue.h"
 #include "core/finaliza.h"
 #include "core/pecas.h"
 #include "core/textos.h"
-#include "machine/contagem.h"
-#include "machine/vale.h"
+#include "core/trincas.h"
 
 namespace corvina {
 

@@ -3,6 +3,9 @@
 // count of the hand; the pile's top is tried in slots 1..9 rising, a drawn card in 9..1
 // falling, and a card that raises nothing goes back to the pile.
 
+#include <array>
+
+#include "core/carta.h"
 #include "core/mesa.h"
 #include "core/nivel.h"
 
@@ -17,7 +20,6 @@ class Classico : public Nivel {
     // The count of the nine cards before the turn, kept from the draw's decision for the
     // discard's: both read the same nine cards.
     int16 pontosBase(const VisaoDoNivel& visao);
-    Mesa mesa_; // the seat's own cards where the count reads them, and nothing else
     std::array<Carta, kCartasNaMao> baseDe_{};
     int16 base_ = -1;
 };

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <tuple>
 
-#include "machine/conta_mao.h"
-#include "machine/vale.h"
+#include "core/contagem_de_cartas.h"
+#include "core/trincas.h"
 
 namespace corvina {
 
@@ -45,7 +45,7 @@ std::vector<Avaliacao> Esperto::avaliaDescartes(const std::vector<Carta>& mao,
         if (d.faltam == 0) {
             std::vector<Carta> nove = mao;
             nove.erase(nove.begin() + static_cast<std::ptrdiff_t>(i));
-            a.vence = contaDasCartas(nove) >= kPontosVitoria;
+            a.vence = pontosDasCartas(nove) >= kPontosVitoria;
         }
         lista.push_back(a);
     }

@@ -1,31 +1,35 @@
 #include "machine/tentativas.h"
 
-#include "machine/contagem.h"
+#include <algorithm>
+#include <array>
+
+#include "core/contagem_de_cartas.h"
+#include "core/mesa.h"
 
 namespace corvina {
 
-Tentativa tentaCarta(Mesa& mesa, Carta nova, bool descendo) {
+Tentativa tentaCarta(std::span<const Carta> nove, Carta nova, bool descendo) {
     Tentativa t;
-    for (int passo = 0; passo < kCartasNaMao; ++passo) {
-        const int i = descendo ? kCartasNaMao - passo : passo + 1;
-        const Carta guardada = cartaNa(mesa.macValor, mesa.macNaipe, i);
-        poeCarta(mesa.macValor, mesa.macNaipe, i, nova);
-        const int16 pontosTroca = TemQuantosGrupos(mesa, Lado::Mac, true);
-        poeCarta(mesa.macValor, mesa.macNaipe, i, guardada);
+    std::array<Carta, kCartasNaMao> mao{};
+    const std::size_t q = std::min<std::size_t>(nove.size(), mao.size());
+    std::copy_n(nove.begin(), q, mao.begin());
+    const std::span<const Carta> conta(mao.data(), q);
+    for (int passo = 0; passo < static_cast<int>(q); ++passo) {
+        const int i = descendo ? static_cast<int>(q) - 1 - passo : passo;
+        const Carta guardada = mao[i];
+        mao[i] = nova;
+        const int16 pontosTroca = pontosDasCartas(conta, true);
+        mao[i] = guardada;
         if (pontosTroca > t.melhorPontos) {
             t.melhorPontos = pontosTroca;
-            t.melhorCarta = static_cast<int16>(i);
+            t.melhorCarta = static_cast<int16>(i + 1);
         }
     }
     return t;
 }
 
-int16 escolheDescarteAposCompra(Mesa& mesa, Carta comprada, int16 pontosBase) {
-    // The drawn card waits in slot 10, out of the count.
-    const int16 qtd = mesa.qtdMac;
-    mesa.qtdMac = kCartasNaMao;
-    const Tentativa t = tentaCarta(mesa, comprada, true);
-    mesa.qtdMac = qtd;
+int16 escolheDescarteAposCompra(std::span<const Carta> nove, Carta comprada, int16 pontosBase) {
+    const Tentativa t = tentaCarta(nove, comprada, true);
     return t.melhorPontos > pontosBase ? t.melhorCarta : kCasaCompra;
 }
 

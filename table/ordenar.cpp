@@ -3,15 +3,14 @@
 #include <array>
 
 #include "core/ajustes.h"
+#include "core/contagem.h"
 #include "core/finaliza.h"
 #include "core/novojogo.h"
+#include "core/ordenacao.h"
 #include "core/pecas.h"
 #include "core/textos.h"
+#include "core/vale.h"
 #include "core/verifica_c.h"
-#include "machine/conta_grupos.h"
-#include "machine/contagem.h"
-#include "machine/ordenacao.h"
-#include "machine/vale.h"
 
 namespace corvina {
 

@@ -4,8 +4,8 @@
 #include <random>
 
 #include "apoio/maos.h"
+#include "core/vale.h"
 #include "machine/distancia.h"
-#include "machine/vale.h"
 
 namespace corvina {
 namespace {

@@ -1,10 +1,10 @@
-#include "machine/agrupa_mac.h"
+#include "core/agrupa_mac.h"
 
 #include <algorithm>
 #include <array>
 
-#include "machine/contagem.h"
-#include "machine/ordenacao.h"
+#include "core/contagem.h"
+#include "core/ordenacao.h"
 
 namespace corvina {
 

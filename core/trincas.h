@@ -1,7 +1,7 @@
 #pragma once
-// The three meld tests: the only place where the rules of a trinca and a dupla stand.
+// The rules of a trinca and a dupla, on cards alone: the only place where they stand.
 
-#include "core/mesa.h"
+#include "core/carta.h"
 
 namespace corvina {
 
@@ -16,10 +16,5 @@ bool valeGrupo(Carta a, Carta b, Carta c);
 bool valeDupla(Carta a, Carta b);
 // Two apart in one suit. The wrapped cases hold in one order only: 13 before 2, 1 before 12.
 bool valeDuplaSeparada(Carta primeira, Carta segunda);
-
-// The same tests on slots of one side's hand.
-bool ValeGrupo(Mesa& mesa, int carta1, int carta2, int carta3, Lado dequem);
-bool ValeDupla(Mesa& mesa, int carta1, int carta2, Lado dequem);
-bool ValeDuplaSeparada(Mesa& mesa, int carta1, int carta2, Lado dequem);
 
 } // namespace corvina

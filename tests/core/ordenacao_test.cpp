@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "apoio/maos.h"
-#include "machine/ordenacao.h"
+#include "core/ordenacao.h"
 
 namespace corvina {
 namespace {

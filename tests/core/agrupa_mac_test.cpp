@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "apoio/maos.h"
-#include "machine/agrupa_mac.h"
+#include "core/agrupa_mac.h"
 
 namespace corvina {
 namespace {

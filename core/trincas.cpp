@@ -1,4 +1,4 @@
-#include "machine/vale.h"
+#include "core/trincas.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -29,23 +29,6 @@ bool valeDuplaSeparada(Carta primeira, Carta segunda) {
     if (std::abs(primeira.valor - segunda.valor) == 2) return true;
     if (primeira.valor == kRei && segunda.valor == 2) return true;
     return primeira.valor == kAs && segunda.valor == kRei - 1;
-}
-
-bool ValeGrupo(Mesa& mesa, int carta1, int carta2, int carta3, Lado dequem) {
-    const Mao mao = maoDe(mesa, dequem);
-    return valeGrupo(cartaNa(mao.valor, mao.naipe, carta1), cartaNa(mao.valor, mao.naipe, carta2),
-                     cartaNa(mao.valor, mao.naipe, carta3));
-}
-
-bool ValeDupla(Mesa& mesa, int carta1, int carta2, Lado dequem) {
-    const Mao mao = maoDe(mesa, dequem);
-    return valeDupla(cartaNa(mao.valor, mao.naipe, carta1), cartaNa(mao.valor, mao.naipe, carta2));
-}
-
-bool ValeDuplaSeparada(Mesa& mesa, int carta1, int carta2, Lado dequem) {
-    const Mao mao = maoDe(mesa, dequem);
-    return valeDuplaSeparada(cartaNa(mao.valor, mao.naipe, carta1),
-                             cartaNa(mao.valor, mao.naipe, carta2));
 }
 
 } // namespace corvina

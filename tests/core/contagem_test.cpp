@@ -4,8 +4,8 @@
 #include <random>
 
 #include "apoio/maos.h"
-#include "machine/contagem.h"
-#include "machine/contagem_literal.h"
+#include "core/contagem.h"
+#include "core/ordem_das_cartas.h"
 
 namespace corvina {
 namespace {
@@ -94,9 +94,10 @@ INSTANTIATE_TEST_SUITE_P(RapidaELiteral, ContagemTest,
                          });
 
 TEST(ContagemLiteral, TryNineSortsBySuitThenFallingValue) {
-    Mesa mesa = mesaCom(Lado::Jog, "13/1 13/2 12/1 2/1 3/1 4/1 13/4 1/1 13/3");
-    aplicaTentativa(mesa, 9, Lado::Jog);
-    EXPECT_EQ(textoDaMao(mesa, Lado::Jog), "13/1 12/1 4/1 3/1 2/1 1/1 13/2 13/3 13/4");
+    auto mao = teste::cartas("13/1 13/2 12/1 2/1 3/1 4/1 13/4 1/1 13/3");
+    std::vector<Carta> aux(mao.size());
+    aplicaTentativa(mao, aux, 9);
+    EXPECT_EQ(escreveCartas(mao), "13/1 12/1 4/1 3/1 2/1 1/1 13/2 13/3 13/4");
 }
 
 } // namespace

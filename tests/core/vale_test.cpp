@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "apoio/maos.h"
-#include "machine/vale.h"
+#include "core/vale.h"
 
 namespace corvina {
 namespace {

@@ -1,12 +1,9 @@
-#include "machine/contagem.h"
+#include "core/contagem_de_cartas.h"
 
 #include <algorithm>
-#include <array>
 #include <bit>
-#include <cstdint>
 
-#include "machine/contagem_literal.h"
-#include "machine/vale.h"
+#include "core/trincas.h"
 
 // Why this is fast and still the same count:
 // - Every try leaves the slots in an order fixed by the cards alone, a total order on the 52
@@ -404,29 +401,23 @@ struct Procura {
     }
 };
 
-void deixaResultado(Mesa& mesa, Lado dequem, const Busca& b) {
-    constexpr int kCasasContadas = 10;
-    mesa.qtdGrupo = 0;
-    for (int casa = 1; casa <= kCasasContadas; ++casa) {
-        mesa.grupoValor[casa] = 0;
-        mesa.grupoNaipe[casa] = 0;
-        mesa.cartaLivre[casa] = !(b.usadas >> (casa - 1) & 1);
-    }
-    if (dequem != Lado::Jog) return;
-    for (int i = 0; i < b.qtdGrupo; ++i) {
-        ++mesa.qtdGrupo;
-        mesa.grupoValor[mesa.qtdGrupo] = static_cast<int16>(valorDo(b.grupo[i]));
-        mesa.grupoNaipe[mesa.qtdGrupo] = static_cast<int16>(naipeDo(b.grupo[i]));
-    }
+// The walk's answer for the order searched last: its points, and its melds' places and cards.
+Contagem resultado(const Busca& b) {
+    Contagem c;
+    c.pontos = b.pontos;
+    c.usadas = b.usadas;
+    c.qtdGrupo = b.qtdGrupo;
+    for (int i = 0; i < b.qtdGrupo; ++i)
+        c.grupo[i] =
+            Carta{static_cast<int16>(valorDo(b.grupo[i])), static_cast<int16>(naipeDo(b.grupo[i]))};
+    return c;
 }
 
 // Reads the hand into masks; false for a hand no deal can make (a bad card, a third copy,
 // fewer than three cards), which only the walk itself can answer for.
-bool leMao(const Mao& mao, Mao10& h) {
-    const int q = mao.qtd;
-    if (q < 3 || q > kMaxCartas) return false;
-    for (int i = 1; i <= q; ++i) {
-        const Carta carta = cartaNa(mao.valor, mao.naipe, i);
+bool leMao(std::span<const Carta> mao, Mao10& h) {
+    if (mao.size() < 3 || mao.size() > kMaxCartas) return false;
+    for (const Carta carta : mao) {
         if (!cartaValida(carta)) return false;
         const int t = tipoDe(carta.valor, carta.naipe);
         if (h.dois >> t & 1) return false;
@@ -442,9 +433,9 @@ bool leMao(const Mao& mao, Mao10& h) {
 
 } // namespace
 
-int16 TemQuantosGrupos(Mesa& mesa, Lado dequem, bool soTrincas) {
+std::optional<Contagem> contaRapida(std::span<const Carta> mao, bool soTrincas) {
     Mao10 h;
-    if (!leMao(maoDe(mesa, dequem), h)) return TemQuantosGruposLiteral(mesa, dequem, soTrincas);
+    if (!leMao(mao, h)) return std::nullopt;
     achaCandidatos(h);
     separaDisputadas(h);
 
@@ -478,10 +469,19 @@ int16 TemQuantosGrupos(Mesa& mesa, Lado dequem, bool soTrincas) {
     }
     // The group list and the free slots are those of the last order searched, in its slots.
     posicoes(h, ultima, pos);
-    const Busca final = Procura{h.dois, pos}.busca(h.todas, 0);
-    melhor = std::max(melhor, final.pontos);
-    deixaResultado(mesa, dequem, final);
-    return melhor;
+    Contagem c = resultado(Procura{h.dois, pos}.busca(h.todas, 0));
+    c.pontos = std::max(melhor, c.pontos);
+    return c;
+}
+
+Contagem contaCartas(std::span<const Carta> mao, bool soTrincas) {
+    if (auto c = contaRapida(mao, soTrincas)) return *c;
+    std::array<Carta, kMaiorMaoContada> rascunho{};
+    return contaCartasLiteral(mao, rascunho, soTrincas);
+}
+
+int16 pontosDasCartas(std::span<const Carta> mao, bool soTrincas) {
+    return contaCartas(mao, soTrincas).pontos;
 }
 
 } // namespace corvina
