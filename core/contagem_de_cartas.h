@@ -36,6 +36,14 @@ Contagem contaCartasLiteral(std::span<const Carta> mao, std::span<Carta> aux, bo
 // outside the packs, a third copy, fewer than three or more than ten cards).
 std::optional<Contagem> contaRapida(std::span<const Carta> mao, bool soTrincas);
 
+// The best count of the hand with `nova` in place of each card in turn (first to last, or last
+// to first), and the first place (from 0) to reach it; none when no count rose above 0.
+struct MelhorTroca {
+    int16 pontos = 0;
+    int casa = -1;
+};
+MelhorTroca melhorTroca(std::span<const Carta> mao, Carta nova, bool descendo, bool soTrincas);
+
 // The count of any hand: the fast count where it answers, else the walk.
 Contagem contaCartas(std::span<const Carta> mao, bool soTrincas = false);
 int16 pontosDasCartas(std::span<const Carta> mao, bool soTrincas = false);

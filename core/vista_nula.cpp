@@ -57,9 +57,9 @@ std::string nomeDaPeca(Peca peca) {
     }
 }
 
-void VistaNula::anota(std::string linha) {
+void VistaNula::anota(const std::function<std::string()>& linha) {
     if (aCadaChamada) aCadaChamada();
-    if (registra) chamadas.push_back(std::move(linha));
+    if (registra) chamadas.push_back(linha());
 }
 
 std::vector<std::string> VistaNula::chamadasDe(const std::string& inicio) const {
@@ -70,99 +70,106 @@ std::vector<std::string> VistaNula::chamadasDe(const std::string& inicio) const 
 }
 
 void VistaNula::apresentacartasdojog(int16 inicio, int16 fim) {
-    anota("apresentacartasdojog " + std::to_string(inicio) + " " + std::to_string(fim));
+    anota([&] {
+        return "apresentacartasdojog " + std::to_string(inicio) + " " + std::to_string(fim);
+    });
 }
 void VistaNula::apresentacartasdamac(int16 most, int16 mostraesta) {
-    anota("apresentacartasdamac " + std::to_string(most) + " " + std::to_string(mostraesta));
+    anota([&] {
+        return "apresentacartasdamac " + std::to_string(most) + " " + std::to_string(mostraesta);
+    });
 }
 void VistaNula::destaca(int16 index) {
-    anota("destaca " + std::to_string(index));
+    anota([&] { return "destaca " + std::to_string(index); });
 }
 void VistaNula::MostraDiscarts() {
-    anota("MostraDiscarts");
+    anota([&] { return "MostraDiscarts"; });
 }
 void VistaNula::Habilita(bool h) {
-    anota(std::string("Habilita ") + (h ? "1" : "0"));
+    anota([&] { return std::string("Habilita ") + (h ? "1" : "0"); });
 }
 void VistaNula::Premover(int16 index) {
-    anota("Premover " + std::to_string(index));
+    anota([&] { return "Premover " + std::to_string(index); });
 }
 void VistaNula::voaCarta(Peca sprite, float, float, double fator) {
-    anota("voaCarta " + nomeDaPeca(sprite) + " " + num(fator));
+    anota([&] { return "voaCarta " + nomeDaPeca(sprite) + " " + num(fator); });
 }
 void VistaNula::aplicaContorno(Peca sprite, std::uint32_t) {
-    anota("aplicaContorno " + nomeDaPeca(sprite));
+    anota([&] { return "aplicaContorno " + nomeDaPeca(sprite); });
 }
 void VistaNula::mostraPeca(Peca peca, bool visivel) {
-    anota("mostraPeca " + nomeDaPeca(peca) + (visivel ? " 1" : " 0"));
+    anota([&] { return "mostraPeca " + nomeDaPeca(peca) + (visivel ? " 1" : " 0"); });
 }
 void VistaNula::habilitaPeca(Peca peca, bool habilitada) {
-    anota("habilitaPeca " + nomeDaPeca(peca) + (habilitada ? " 1" : " 0"));
+    anota([&] { return "habilitaPeca " + nomeDaPeca(peca) + (habilitada ? " 1" : " 0"); });
 }
 void VistaNula::ponteiro(Peca peca, Ponteiro p) {
-    anota("ponteiro " + nomeDaPeca(peca) + " " + std::to_string(static_cast<int>(p)));
+    anota(
+        [&] { return "ponteiro " + nomeDaPeca(peca) + " " + std::to_string(static_cast<int>(p)); });
 }
 void VistaNula::copiaFigura(Peca destino, Peca origem) {
-    anota("copiaFigura " + nomeDaPeca(destino) + " " + nomeDaPeca(origem));
+    anota([&] { return "copiaFigura " + nomeDaPeca(destino) + " " + nomeDaPeca(origem); });
 }
 Lugar VistaNula::lugar(Peca) {
     return {};
 }
 void VistaNula::poeLugar(Peca, Lugar) {}
 void VistaNula::mostraPrompt(const std::string& texto) {
-    anota("mostraPrompt " + texto);
+    anota([&] { return "mostraPrompt " + texto; });
 }
 void VistaNula::mostraAviso(const std::string& texto) {
-    anota("mostraAviso " + texto);
+    anota([&] { return "mostraAviso " + texto; });
 }
 void VistaNula::escondeAviso() {
-    anota("escondeAviso");
+    anota([&] { return "escondeAviso"; });
 }
 void VistaNula::mostraTrincas(const std::string& texto) {
-    anota("mostraTrincas " + texto);
+    anota([&] { return "mostraTrincas " + texto; });
 }
 void VistaNula::mostraPlacar(int16 jog, int16 mac) {
-    anota("mostraPlacar " + std::to_string(jog) + " " + std::to_string(mac));
+    anota([&] { return "mostraPlacar " + std::to_string(jog) + " " + std::to_string(mac); });
 }
 void VistaNula::mostraContagens(std::optional<int16> jog, std::optional<int16> mac) {
-    anota("mostraContagens " + opcional(jog) + " " + opcional(mac));
+    anota([&] { return "mostraContagens " + opcional(jog) + " " + opcional(mac); });
 }
 void VistaNula::mostraMesa() {
-    anota("mostraMesa");
+    anota([&] { return "mostraMesa"; });
 }
 void VistaNula::legendaOrdenar(const std::string& texto) {
-    anota("legendaOrdenar " + texto);
+    anota([&] { return "legendaOrdenar " + texto; });
 }
 int VistaNula::caixaMensagem(const std::string& texto, int estilo, const std::string& titulo) {
-    anota("caixaMensagem " + texto + "|" + std::to_string(estilo) + "|" + titulo);
+    anota([&] { return "caixaMensagem " + texto + "|" + std::to_string(estilo) + "|" + titulo; });
     return aoPerguntar ? aoPerguntar(texto) : kBotaoOk;
 }
 void VistaNula::preparaPlacar(const Placar& placar) {
-    anota("preparaPlacar " + placar.manchete + "|" + std::to_string(placar.pontosJog) + "|" +
-          std::to_string(placar.pontosMac) + "|" + (placar.pisca ? "1" : "0"));
+    anota([&] {
+        return "preparaPlacar " + placar.manchete + "|" + std::to_string(placar.pontosJog) + "|" +
+               std::to_string(placar.pontosMac) + "|" + (placar.pisca ? "1" : "0");
+    });
     if (aoPrepararPlacar) aoPrepararPlacar(placar);
 }
 void VistaNula::abreJanela(Janela janela) {
-    anota(std::string("abreJanela ") + nomeDaJanela(janela));
+    anota([&] { return std::string("abreJanela ") + nomeDaJanela(janela); });
     if (aoAbrirJanela) aoAbrirJanela(janela);
 }
 void VistaNula::tocaSom(const std::string& arquivo, bool aguarda) {
-    anota("tocaSom " + arquivo + (aguarda ? " 1" : " 0"));
+    anota([&] { return "tocaSom " + arquivo + (aguarda ? " 1" : " 0"); });
 }
 void VistaNula::espera(int milissegundos) {
-    anota("espera " + std::to_string(milissegundos));
+    anota([&] { return "espera " + std::to_string(milissegundos); });
 }
 void VistaNula::processaEventos() {
-    anota("processaEventos");
+    anota([&] { return "processaEventos"; });
 }
 std::string VistaNula::leAjuste(const std::string& chave, const std::string& nome,
                                 const std::string& padrao) {
-    anota("leAjuste " + nome);
+    anota([&] { return "leAjuste " + nome; });
     return armazem.le(chave, nome, padrao);
 }
 bool VistaNula::gravaAjuste(const std::string& chave, const std::string& nome,
                             const std::string& valor) {
-    anota("gravaAjuste " + nome + " " + valor);
+    anota([&] { return "gravaAjuste " + nome + " " + valor; });
     return armazem.grava(chave, nome, valor);
 }
 

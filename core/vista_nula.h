@@ -58,7 +58,8 @@ class VistaNula : public VistaMesa {
     std::vector<std::string> chamadasDe(const std::string& inicio) const;
 
   private:
-    void anota(std::string linha);
+    // The line is written only when it is kept: a long self-play keeps none.
+    void anota(const std::function<std::string()>& linha);
 };
 
 const char* nomeDaJanela(Janela janela);

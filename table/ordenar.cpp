@@ -4,12 +4,12 @@
 
 #include "core/ajustes.h"
 #include "core/contagem.h"
+#include "core/trincas.h"
 #include "core/finaliza.h"
 #include "core/novojogo.h"
 #include "core/ordenacao.h"
 #include "core/pecas.h"
 #include "core/textos.h"
-#include "core/vale.h"
 #include "core/verifica_c.h"
 
 namespace corvina {

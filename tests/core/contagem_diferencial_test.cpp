@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "core/contagem.h"
+#include "core/contagem_de_cartas.h"
 
 namespace corvina {
 namespace {
@@ -105,6 +106,47 @@ TEST(ContagemDiferencial, AgreesOnHandsNoDealCanMake) {
         confere(*lerCartas(texto), Lado::Jog, false);
         confere(*lerCartas(texto), Lado::Jog, true);
     }
+}
+
+// The machine's trying of a card in each place, against counting each place by the walk.
+MelhorTroca trocaLiteral(const std::vector<Carta>& mao, Carta nova, bool descendo, bool curta) {
+    MelhorTroca r;
+    const int q = static_cast<int>(mao.size());
+    for (int passo = 0; passo < q; ++passo) {
+        const int i = descendo ? q - 1 - passo : passo;
+        std::vector<Carta> troca = mao, aux(mao.size());
+        troca[static_cast<std::size_t>(i)] = nova;
+        const int16 p = contaCartasLiteral(troca, aux, curta).pontos;
+        if (p > r.pontos) r = {p, i};
+    }
+    return r;
+}
+
+TEST(ContagemDiferencial, TryingACardInEachPlaceAgreesWithTheWalk) {
+    Sorteador s(99);
+    std::uniform_int_distribution<int> valores(3, kValores), naipes(1, kNaipes);
+    for (int i = 0; i < 20000; ++i) {
+        // Wide hands and crowded ones; the tenth card is the one tried.
+        const int nv = i % 2 ? kValores : valores(s.gerador());
+        const int nn = i % 2 ? kNaipes : naipes(s.gerador());
+        s.base(0);
+        auto dez = s.mao(std::min(10, 2 * nv * nn), nv, nn);
+        const Carta nova = dez.back();
+        dez.pop_back();
+        for (const bool descendo : {false, true}) {
+            const bool curta = i % 3 != 0;
+            const MelhorTroca a = melhorTroca(dez, nova, descendo, curta);
+            const MelhorTroca b = trocaLiteral(dez, nova, descendo, curta);
+            ASSERT_EQ(a.pontos, b.pontos) << escreveCartas(dez) << " + " << escreveCarta(nova);
+            ASSERT_EQ(a.casa, b.casa) << escreveCartas(dez) << " + " << escreveCarta(nova);
+        }
+    }
+    // A third copy, and a card outside the packs: counted place by place all the same.
+    const auto tres = *lerCartas("5/1 5/1 6/1 7/1 8/2 8/3 8/4 1/1 2/2");
+    EXPECT_EQ(melhorTroca(tres, Carta{5, 1}, false, false).casa,
+              trocaLiteral(tres, Carta{5, 1}, false, false).casa);
+    EXPECT_EQ(melhorTroca(tres, Carta{0, 0}, true, true).pontos,
+              trocaLiteral(tres, Carta{0, 0}, true, true).pontos);
 }
 
 } // namespace
