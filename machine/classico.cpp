@@ -26,17 +26,24 @@ int16 Classico::pontosBase(const VisaoDoNivel& visao) {
     return base_;
 }
 
+Tentativa Classico::tentaDoTopo(const VisaoDoNivel& visao, Carta topo) {
+    // The card taken is tried again, in the same nine, for the discard that follows.
+    if (!topoTentado_ || topoTentado_->carta != topo || topoTentado_->nove != baseDe_)
+        topoTentado_ = TopoTentado{baseDe_, topo, tentaCarta(noveDe(visao), topo, false)};
+    return topoTentado_->tentativa;
+}
+
 bool Classico::pegaDescarte(const VisaoDoNivel& visao) {
     const int16 base = pontosBase(visao);
     if (!visao.topo) return false;
-    return tentaCarta(noveDe(visao), *visao.topo, false).melhorPontos > base;
+    return tentaDoTopo(visao, *visao.topo).melhorPontos > base;
 }
 
 int16 Classico::descarte(const VisaoDoNivel& visao, bool doDescarte) {
     const int16 base = pontosBase(visao);
     const Carta nova = visao.mao.at(kCasaCompra - 1);
     // It took the pile's card because some slot gains: the lowest of the best goes.
-    if (doDescarte) return tentaCarta(noveDe(visao), nova, false).melhorCarta;
+    if (doDescarte) return tentaDoTopo(visao, nova).melhorCarta;
     return escolheDescarteAposCompra(noveDe(visao), nova, base);
 }
 
