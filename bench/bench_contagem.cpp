@@ -1,5 +1,5 @@
 // Counts per second of the fast count and of the try-by-try walk, on the same hands, and the
-// ratio between them.
+// ratio between them; the same for the machine's trying of a card in nine places.
 
 #include <benchmark/benchmark.h>
 
@@ -9,6 +9,8 @@
 #include <vector>
 
 #include "core/contagem.h"
+#include "core/contagem_de_cartas.h"
+#include "core/mesa.h"
 
 namespace corvina {
 namespace {
@@ -78,6 +80,57 @@ BENCHMARK(ladoALado)
     ->Name("contagem/lado_a_lado")
     ->ArgsProduct({{9, 10}, {0, 1}})
     ->ArgNames({"cartas", "curta"})
+    ->Unit(benchmark::kMillisecond);
+
+// The machine's trying of a card in the nine places: each place counted on its own, against
+// one reading of the ten cards that skips the places that can't beat the best. Same answers.
+void tentativasLadoALado(benchmark::State& estado) {
+    std::mt19937 gerador(777);
+    std::vector<Carta> monte;
+    for (int id = 1; id <= kCartasNoJogo; ++id) monte.push_back(cartaDoId(static_cast<int16>(id)));
+    std::vector<std::vector<Carta>> dezes(2048);
+    for (auto& dez : dezes) {
+        std::shuffle(monte.begin(), monte.end(), gerador);
+        dez.assign(monte.begin(), monte.begin() + kCasaCompra);
+    }
+    const auto umaAUma = [](std::span<const Carta> nove, Carta nova) {
+        std::array<Carta, kCartasNaMao> troca{};
+        std::copy(nove.begin(), nove.end(), troca.begin());
+        MelhorTroca r;
+        for (int i = 0; i < kCartasNaMao; ++i) {
+            troca[static_cast<std::size_t>(i)] = nova;
+            const int16 p = pontosDasCartas(troca, true);
+            troca[static_cast<std::size_t>(i)] = nove[static_cast<std::size_t>(i)];
+            if (p > r.pontos) r = {p, i};
+        }
+        return r;
+    };
+    using Relogio = std::chrono::steady_clock;
+    Relogio::duration cada{}, junta{};
+    long tentadas = 0;
+    for (auto _ : estado) {
+        int somaC = 0, somaJ = 0;
+        const auto t0 = Relogio::now();
+        for (const auto& d : dezes)
+            somaC += umaAUma(std::span(d).first(kCartasNaMao), d.back()).casa;
+        const auto t1 = Relogio::now();
+        for (const auto& d : dezes)
+            somaJ += melhorTroca(std::span(d).first(kCartasNaMao), d.back(), false, true).casa;
+        const auto t2 = Relogio::now();
+        if (somaC != somaJ) estado.SkipWithError("the two ways disagree");
+        cada += t1 - t0;
+        junta += t2 - t1;
+        tentadas += static_cast<long>(dezes.size());
+    }
+    const auto ns = [&](Relogio::duration d) {
+        return std::chrono::duration<double, std::nano>(d).count() / static_cast<double>(tentadas);
+    };
+    estado.counters["uma_a_uma_ns"] = ns(cada);
+    estado.counters["de_uma_leitura_ns"] = ns(junta);
+    estado.counters["aceleracao"] = ns(cada) / ns(junta);
+}
+BENCHMARK(tentativasLadoALado)
+    ->Name("contagem/tentativas_lado_a_lado")
     ->Unit(benchmark::kMillisecond);
 
 } // namespace
