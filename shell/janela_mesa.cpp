@@ -15,6 +15,7 @@
 #include "table/arraste.h"
 #include "table/comandos.h"
 #include "table/ordenar.h"
+#include "table/teclado.h"
 
 namespace corvina {
 
@@ -42,6 +43,42 @@ const QRect kNivel(591, 290, 176, 36);
 const QRect kDica(591, 332, 176, 18);
 const QColor kOuroDaDica(250, 214, 90);
 constexpr int kTeclaNivel = Qt::Key_N, kTeclaDica = Qt::Key_D;
+// The keys of the play: B the stock (baralho), P the pile, O the sort; Enter or Space discards.
+constexpr int kTeclaBaralho = Qt::Key_B, kTeclaPilha = Qt::Key_P, kTeclaOrdenar = Qt::Key_O;
+const QColor kCorDoFoco(255, 255, 255);
+
+std::optional<Tecla> teclaDaMesa(const QKeyEvent& e) {
+    const auto mods = e.modifiers() & ~Qt::KeypadModifier;
+    const bool nada = mods == Qt::NoModifier, shift = mods == Qt::ShiftModifier;
+    switch (e.key()) {
+    case Qt::Key_Left:
+        return nada    ? std::optional(Tecla::Esquerda)
+               : shift ? std::optional(Tecla::CartaAEsquerda)
+                       : std::nullopt;
+    case Qt::Key_Right:
+        return nada    ? std::optional(Tecla::Direita)
+               : shift ? std::optional(Tecla::CartaADireita)
+                       : std::nullopt;
+    case Qt::Key_Home:
+        return nada ? std::optional(Tecla::Primeira) : std::nullopt;
+    case Qt::Key_End:
+        return nada ? std::optional(Tecla::Ultima) : std::nullopt;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Space:
+        return nada ? std::optional(Tecla::Descartar) : std::nullopt;
+    case Qt::Key_Escape:
+        return nada ? std::optional(Tecla::Solta) : std::nullopt;
+    case kTeclaBaralho:
+        return nada ? std::optional(Tecla::Baralho) : std::nullopt;
+    case kTeclaPilha:
+        return nada ? std::optional(Tecla::Pilha) : std::nullopt;
+    case kTeclaOrdenar:
+        return nada ? std::optional(Tecla::Ordenar) : std::nullopt;
+    default:
+        return std::nullopt;
+    }
+}
 
 int px(float twips) {
     return static_cast<int>(std::floor(twips / kTwipsPorPixel));
@@ -93,6 +130,17 @@ void JanelaMesa::paintEvent(QPaintEvent*) {
     p.setClipping(false);
     desenhaTextos(p);
     desenhaNivelEDica(p);
+    desenhaFoco(p);
+}
+
+void JanelaMesa::desenhaFoco(QPainter& p) {
+    const int16 foco = vista_.cena().foco;
+    if (foco < 1 || foco > jogo_.mesa.qtdJog || !vista_.cena()[peca::cj(foco)].Visible) return;
+    p.resetTransform();
+    p.setRenderHint(QPainter::Antialiasing, true);
+    p.setPen(QPen(kCorDoFoco, 2, Qt::DashLine));
+    p.setBrush(Qt::NoBrush);
+    p.drawRoundedRect(QRectF(retanguloDa(peca::cj(foco))).adjusted(-3, -3, 3, 3), 6, 6);
 }
 
 void JanelaMesa::desenhaNivelEDica(QPainter& p) {
@@ -313,10 +361,27 @@ void JanelaMesa::clique(const Toque& t) {
     }
 }
 
+bool JanelaMesa::focusNextPrevChild(bool proxima) {
+    // Tab walks the player's row: the table has no other place to go.
+    teclaNaMesa(jogo_, vista_, proxima ? Tecla::Direita : Tecla::Esquerda);
+    update();
+    return true;
+}
+
 void JanelaMesa::keyPressEvent(QKeyEvent* e) {
     const bool soALetra = e->modifiers() == Qt::NoModifier;
     if (e->key() == kTeclaNivel && soALetra) return abreNivel();
     if (e->key() == kTeclaDica && soALetra) return pedeDica();
+    if (const auto t = teclaDaMesa(*e)) {
+        teclaNaMesa(jogo_, vista_, *t);
+        return update();
+    }
+    if (e->key() >= Qt::Key_0 && e->key() <= Qt::Key_9 &&
+        (e->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier) {
+        const int digito = e->key() - Qt::Key_0;
+        focaCasa(jogo_, vista_, static_cast<int16>(digito == 0 ? kCasaCompra : digito));
+        return update();
+    }
     if (e->key() < Qt::Key_F1 || e->key() > Qt::Key_F10) return QWidget::keyPressEvent(e);
     const int codigo = kTeclaF1 + (e->key() - Qt::Key_F1);
     const int shift = e->modifiers() == Qt::ControlModifier ? kShiftCtrl : 0;

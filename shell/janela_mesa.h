@@ -39,6 +39,7 @@ class JanelaMesa : public QWidget {
     void mousePressEvent(QMouseEvent* e) override;
     void mouseReleaseEvent(QMouseEvent* e) override;
     void keyPressEvent(QKeyEvent* e) override;
+    bool focusNextPrevChild(bool proxima) override;
     void showEvent(QShowEvent* e) override;
     void closeEvent(QCloseEvent* e) override;
 
@@ -54,6 +55,7 @@ class JanelaMesa : public QWidget {
     QPointF dentroDoMover(QPoint p) const; // twips inside Picmover
     void desenhaTextos(QPainter& p);
     void desenhaNivelEDica(QPainter& p);
+    void desenhaFoco(QPainter& p);
     std::vector<int16> assinaturaDaMesa() const;
     void clique(const Toque& t);
     void atende(PedidoDaTecla pedido);

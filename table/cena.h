@@ -64,6 +64,8 @@ class Cena {
     void paraFrente(Peca peca);
 
     Textos textos;
+    // The player's card the keys act on, slot 1..; 0 while the keys have not chosen one.
+    int16 foco = 0;
 
   private:
     std::array<Sprite, 11> cj_{}, cm_{};

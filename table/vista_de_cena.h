@@ -37,6 +37,9 @@ class VistaDeCena : public VistaMesa {
     void mostraMesa() override;
     void legendaOrdenar(const std::string& texto) override;
 
+    // The keys moved the focus along the row: paint it, and tell whoever follows it.
+    virtual void mudouAFoco() { mudou(); }
+
   protected:
     // Something on the table changed and wants painting; the screen decides when.
     virtual void mudou() {}

@@ -74,6 +74,20 @@ mãos</i> quando a troca está ligada.</p>
 um aro dourado marca o baralho, o descarte ou a carta a descartar, e a linha acima das suas
 cartas diz a jogada. A dica nunca joga por você, e some assim que a mesa muda.</p>
 
+<h2>Jogar pelo teclado</h2>
+<p>A partida inteira se joga sem o mouse. Um contorno branco tracejado marca a carta em foco.</p>
+<table cellspacing="4">
+<tr><td><b>← →</b> ou <b>Tab</b></td><td>passar o foco pelas suas cartas</td></tr>
+<tr><td><b>1</b> a <b>9</b>, <b>0</b></td><td>pôr o foco na carta daquele lugar (0 é a décima)</td></tr>
+<tr><td><b>Home</b>, <b>End</b></td><td>a primeira carta, a última</td></tr>
+<tr><td><b>Shift + ← →</b></td><td>levar a carta em foco um lugar para o lado</td></tr>
+<tr><td><b>B</b></td><td>comprar do baralho</td></tr>
+<tr><td><b>P</b></td><td>pegar a carta de cima da pilha de descarte</td></tr>
+<tr><td><b>Enter</b> ou <b>Espaço</b></td><td>descartar a carta em foco</td></tr>
+<tr><td><b>O</b></td><td>ordenar (no modo assistido)</td></tr>
+<tr><td><b>Esc</b></td><td>tirar o foco</td></tr>
+</table>
+
 <h2>Teclas</h2>
 <table cellspacing="4">
 <tr><td><b>F2</b></td><td>escolher o verso das cartas</td></tr>

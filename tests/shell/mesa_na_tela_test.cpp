@@ -130,6 +130,69 @@ TEST(MesaNaTela, AWholeHandIsPlayedWithTheMouse) {
     EXPECT_TRUE(t.janela.grab().save(arquivo)) << arquivo.toStdString();
 }
 
+TEST(MesaNaTela, AWholeHandIsPlayedWithTheKeys) {
+    MesaNaTela t;
+    ASSERT_EQ(t.jogo.mesa.qtdJog, 9);
+    const Mesa& m = t.jogo.mesa;
+    const auto carta = [&](int casa) { return cartaNa(m.jogValor, m.jogNaipe, casa); };
+
+    // Enter before drawing: the warning, as a card dropped on the pile, and nothing moves.
+    t.tecla(Qt::Key_Right);
+    ASSERT_EQ(t.vista.cena().foco, 1);
+    t.tecla(Qt::Key_Return);
+    EXPECT_EQ(m.qtdJog, 9);
+    EXPECT_TRUE(t.vista.cena().textos.avisoVisivel);
+
+    // The focus is drawn: white dashes just outside the card.
+    const QImage tela = t.janela.grab().toImage();
+    const QRect r = t.janela.retanguloDa(peca::cj(1));
+    int brancos = 0;
+    for (int x = r.left(); x <= r.right(); ++x)
+        brancos += tela.pixelColor(x, r.top() - 3) == QColor(Qt::white);
+    EXPECT_GT(brancos, r.width() / 4) << "the focus ring on the first card";
+
+    // Shift+Right carries the card one place along; Tab and the arrows walk the row.
+    const Carta primeira = carta(1);
+    t.tecla(Qt::Key_Right, Qt::ShiftModifier);
+    EXPECT_EQ(carta(2), primeira);
+    EXPECT_EQ(t.vista.cena().foco, 2);
+    t.tecla(Qt::Key_Tab);
+    EXPECT_EQ(t.vista.cena().foco, 3);
+    t.tecla(Qt::Key_Left);
+    t.tecla(Qt::Key_Left);
+    t.tecla(Qt::Key_Left);
+    EXPECT_EQ(t.vista.cena().foco, 9) << "left of the first is the last";
+
+    // B draws, End finds the card drawn, Enter throws it; P takes the pile once.
+    const int pontos = t.jogo.modulo.pontosJog + t.jogo.modulo.pontosMac;
+    bool acabou = false, tomou = false;
+    for (int vez = 0; vez < 60 && !acabou; ++vez) {
+        const int16 monteAntes = m.qtdBaralho;
+        const bool pilha = !tomou && t.jogo.modulo.qtdDescarte > 0;
+        t.tecla(pilha ? Qt::Key_P : Qt::Key_B);
+        if (m.qtdJog != 10) {
+            acabou = true; // the stock was spent: a new hand was dealt
+            break;
+        }
+        EXPECT_EQ(m.qtdBaralho, pilha ? monteAntes : monteAntes - 1);
+        tomou = tomou || pilha;
+        const Carta jogada = carta(pilha ? 1 : 10);
+        t.tecla(pilha ? Qt::Key_Home : Qt::Key_End);
+        t.tecla(Qt::Key_Space);
+        ASSERT_EQ(m.qtdJog, 9) << "the key discards the card in focus";
+        EXPECT_LE(t.vista.cena().foco, 9);
+        acabou = t.jogo.modulo.pontosJog + t.jogo.modulo.pontosMac != pontos ||
+                 m.qtdBaralho > monteAntes;
+        if (acabou) break;
+        const Historico& h = t.jogo.historico;
+        const auto minha = std::find(h.autores.rbegin(), h.autores.rend(), Lado::Jog);
+        ASSERT_NE(minha, h.autores.rend());
+        EXPECT_EQ(h.descartes[static_cast<std::size_t>(h.autores.rend() - minha - 1)], jogada);
+    }
+    EXPECT_TRUE(tomou);
+    EXPECT_TRUE(acabou) << "no hand ended in 60 turns";
+}
+
 TEST(MesaNaTela, TheHintTheCountsAndTheToolbarsLightAnswerTheRealKeysAndMouse) {
     MesaNaTela t;
     for (const bool aberta : {true, false}) {
