@@ -4,6 +4,7 @@
 // table would know, and no more.
 
 #include <array>
+#include <optional>
 #include <vector>
 
 #include "core/carta.h"
@@ -16,6 +17,8 @@ struct Historico {
     std::vector<Lado> autores;                   // who threw each of them
     std::array<std::vector<Carta>, 2> tomadas{}; // by side: what each took from the pile
     bool topoTomado = false; // the last card thrown was taken back: no top until the next
+    // By side: how many discards had been made when it last took from the pile.
+    std::array<std::optional<std::size_t>, 2> ultimaTomada{};
 
     void descarta(Lado lado, Carta c) {
         descartes.push_back(c);
@@ -25,17 +28,21 @@ struct Historico {
     void toma(Lado lado, Carta c) {
         tomadasPor(lado).push_back(c);
         topoTomado = true;
+        ultimaTomada[indice(lado)] = descartes.size();
     }
 
-    std::vector<Carta>& tomadasPor(Lado lado) { return tomadas[lado == Lado::Jog ? 0 : 1]; }
-    const std::vector<Carta>& tomadasPor(Lado lado) const {
-        return tomadas[lado == Lado::Jog ? 0 : 1];
+    static std::size_t indice(Lado lado) { return lado == Lado::Jog ? 0 : 1; }
+    std::vector<Carta>& tomadasPor(Lado lado) { return tomadas[indice(lado)]; }
+    const std::vector<Carta>& tomadasPor(Lado lado) const { return tomadas[indice(lado)]; }
+    std::optional<std::size_t> ultimaTomadaDe(Lado lado) const {
+        return ultimaTomada[indice(lado)];
     }
     void limpa() {
         descartes.clear();
         autores.clear();
         for (auto& t : tomadas) t.clear();
         topoTomado = false;
+        ultimaTomada = {};
     }
 };
 

@@ -103,7 +103,20 @@ JanelaMesa::JanelaMesa(Jogo& jogo, VistaQt& vista, const Imagens& imagens)
     setFixedSize(800, 600);
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
+    instalaMesaAcessivel(); // main installs it first; a window made elsewhere (tests) too
     vista_.tela(this);
+    vista_.aoMudar([this] { leitores_.avisa(*this); });
+}
+
+std::vector<ItemDaLeitura> JanelaMesa::leitura() const {
+    return leituraDaMesa(jogo_, vista_.cena());
+}
+
+QRect JanelaMesa::retanguloDaLeitura(const ItemDaLeitura& item) const {
+    if (item.pecas.empty()) return kLabel1.united(kStatus); // the line of messages
+    QRect r;
+    for (const Peca p : item.pecas) r = r.united(retanguloDa(p));
+    return r;
 }
 
 QRect JanelaMesa::retanguloDa(Peca peca) const {
@@ -359,6 +372,15 @@ void JanelaMesa::clique(const Toque& t) {
     default:
         break;
     }
+}
+
+bool JanelaMesa::event(QEvent* e) {
+    const bool feito = QWidget::event(e);
+    // A move of the player ends with the machine's turn; only then is the table still.
+    const auto tipo = e->type();
+    if (tipo == QEvent::KeyPress || tipo == QEvent::MouseButtonRelease || tipo == QEvent::FocusIn)
+        leitores_.avisa(*this);
+    return feito;
 }
 
 bool JanelaMesa::focusNextPrevChild(bool proxima) {

@@ -8,6 +8,7 @@
 
 #include "core/jogo.h"
 #include "shell/imagens.h"
+#include "shell/mesa_acessivel.h"
 #include "shell/vista_qt.h"
 #include "table/comandos.h"
 #include "table/dica.h"
@@ -33,6 +34,11 @@ class JanelaMesa : public QWidget {
     // The hint on show, if the table still stands as it was asked on.
     std::optional<Dica> dicaAtual() const;
 
+    // The table in words, as accessibility tools read it, and where each part stands.
+    std::vector<ItemDaLeitura> leitura() const;
+    QRect retanguloDaLeitura(const ItemDaLeitura& item) const;
+    AvisoAosLeitores& leitores() { return leitores_; }
+
   protected:
     void paintEvent(QPaintEvent*) override;
     void mouseMoveEvent(QMouseEvent* e) override;
@@ -40,6 +46,7 @@ class JanelaMesa : public QWidget {
     void mouseReleaseEvent(QMouseEvent* e) override;
     void keyPressEvent(QKeyEvent* e) override;
     bool focusNextPrevChild(bool proxima) override;
+    bool event(QEvent* e) override;
     void showEvent(QShowEvent* e) override;
     void closeEvent(QCloseEvent* e) override;
 
@@ -70,6 +77,7 @@ class JanelaMesa : public QWidget {
     NivelDaMesa* nivel_ = nullptr;
     std::optional<Dica> dica_;
     std::vector<int16> assinaturaDaDica_; // the table the hint was given on
+    AvisoAosLeitores leitores_;
 };
 
 } // namespace corvina

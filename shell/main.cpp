@@ -15,6 +15,7 @@
 #include "shell/audio/musica_fluidsynth.h"
 #include "shell/imagens.h"
 #include "shell/janela_mesa.h"
+#include "shell/mesa_acessivel.h"
 #include "shell/janelas_qt.h"
 #include "shell/ondas_qt.h"
 #include "shell/splash.h"
@@ -67,6 +68,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName("Corvina");
     const Versao versao = versaoDoPrograma();
     QApplication::setApplicationVersion(QString::fromStdString(versaoParaChecagem(versao)));
+    instalaMesaAcessivel(); // before any window, so that the table is never read as a blank
 
     const QPixmap figura = figuraDoSplash();
     Splash splash(figura, QString::fromStdString(versaoParaUsuario(versao)));

@@ -57,6 +57,7 @@ bool VistaQt::gravaAjuste(const std::string& chave, const std::string& nome,
 
 void VistaQt::mudou() {
     if (tela_) tela_->update();
+    if (aoMudar_) aoMudar_();
 }
 
 } // namespace corvina

@@ -17,6 +17,8 @@ class VistaQt : public VistaDeCena {
     explicit VistaQt(Settings& settings) : settings_(settings) {}
 
     void tela(QWidget* w) { tela_ = w; }
+    // Called after every change of the table, once the window is asked to repaint.
+    void aoMudar(std::function<void()> f) { aoMudar_ = std::move(f); }
     // The sound of the game; without one, silence.
     void som(Som* s) { som_ = s; }
     // The small windows; without them a window closes at once.
@@ -43,6 +45,7 @@ class VistaQt : public VistaDeCena {
   private:
     Settings& settings_;
     QWidget* tela_ = nullptr;
+    std::function<void()> aoMudar_;
     Som* som_ = nullptr;
     JanelasQt* janelas_ = nullptr;
     bool teste_ = false;

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QBitmap>
 #include <QKeyEvent>
@@ -191,6 +192,84 @@ TEST(MesaNaTela, AWholeHandIsPlayedWithTheKeys) {
     }
     EXPECT_TRUE(tomou);
     EXPECT_TRUE(acabou) << "no hand ended in 60 turns";
+}
+
+TEST(MesaNaTela, AScreenReaderReadsTheTableAndHearsItsChanges) {
+    MesaNaTela t;
+    // What the tools would hear (offscreen has no bridge to send it to): (name, kind).
+    std::vector<std::pair<QString, QAccessible::Event>> ouvidos;
+    t.janela.leitores().destino([&](QAccessibleEvent* e) {
+        ouvidos.emplace_back(e->accessibleInterface()->text(QAccessible::Name), e->type());
+    });
+    t.janela.activateWindow();
+    t.janela.setFocus();
+    const Mesa& m = t.jogo.mesa;
+    QAccessibleInterface* mesa = QAccessible::queryAccessibleInterface(&t.janela);
+    ASSERT_NE(mesa, nullptr);
+    EXPECT_EQ(mesa->text(QAccessible::Name), "Mesa do Corvina");
+    ASSERT_EQ(mesa->childCount(), 9 + 5);
+
+    const auto parte = [&](int i) { return mesa->child(i); };
+    const auto nome = [&](int i) { return parte(i)->text(QAccessible::Name).toStdString(); };
+    const auto descricao = [&](int i) {
+        return parte(i)->text(QAccessible::Description).toStdString();
+    };
+    for (int i = 0; i < 9; ++i) {
+        EXPECT_EQ(nome(i), nomeDaCarta(cartaNa(m.jogValor, m.jogNaipe, i + 1)));
+        EXPECT_EQ(descricao(i), "carta " + std::to_string(i + 1) + " de 9");
+        EXPECT_EQ(parte(i)->role(), QAccessible::ListItem);
+        const QRect naTela(t.janela.mapToGlobal(QPoint(0, 0)), t.janela.size());
+        EXPECT_TRUE(naTela.contains(parte(i)->rect())) << i;
+        EXPECT_EQ(mesa->indexOfChild(parte(i)), i);
+    }
+    EXPECT_EQ(nome(9), "Baralho");
+    EXPECT_EQ(descricao(9), std::to_string(m.qtdBaralho) + " cartas");
+    EXPECT_EQ(nome(10), "Descarte");
+    EXPECT_EQ(nome(11), "Mão da CPU");
+    EXPECT_EQ(descricao(11), "9 cartas") << "the machine's faces are not read while hidden";
+    EXPECT_EQ(parte(12)->role(), QAccessible::StatusBar);
+    EXPECT_EQ(nome(13), "Placar");
+    EXPECT_EQ(descricao(13), "Teste 0, CPU 0");
+
+    // The focus moves by keys, and the tools hear it on the card.
+    t.tecla(Qt::Key_Right);
+    EXPECT_TRUE(parte(0)->state().focused);
+    EXPECT_EQ(mesa->focusChild(), parte(0));
+    EXPECT_NE(std::find(ouvidos.begin(), ouvidos.end(),
+                        std::pair(QString::fromStdString(nome(0)), QAccessible::Focus)),
+              ouvidos.end());
+
+    // Ctrl+F1 shows the machine's faces, and then they are read.
+    t.tecla(Qt::Key_F1, Qt::ControlModifier);
+    EXPECT_EQ(descricao(11).rfind("9 cartas: ", 0), 0u) << descricao(11);
+    t.tecla(Qt::Key_F1, Qt::ControlModifier);
+
+    // A draw: a tenth card appears, the stock says one less.
+    const int16 monte = m.qtdBaralho;
+    ouvidos.clear();
+    t.tecla(Qt::Key_B);
+    ASSERT_EQ(m.qtdJog, 10);
+    ASSERT_EQ(mesa->childCount(), 10 + 5);
+    EXPECT_EQ(nome(9), nomeDaCarta(cartaNa(m.jogValor, m.jogNaipe, 10)));
+    EXPECT_EQ(descricao(10), std::to_string(monte - 1) + " cartas");
+    EXPECT_NE(std::find(ouvidos.begin(), ouvidos.end(),
+                        std::pair(QString::fromStdString(nome(9)), QAccessible::ObjectShow)),
+              ouvidos.end());
+
+    // After the machine's turn the line of messages says what it took and what it threw.
+    t.tecla(Qt::Key_End);
+    t.tecla(Qt::Key_Return);
+    if (m.qtdJog == 9 && !t.jogo.historico.descartes.empty()) {
+        const std::string linha = nome(12);
+        EXPECT_EQ(linha.rfind("A CPU ", 0), 0u) << linha;
+        EXPECT_NE(linha.find(" e descartou "), std::string::npos) << linha;
+        EXPECT_NE(std::find_if(ouvidos.begin(), ouvidos.end(),
+                               [&](const auto& o) {
+                                   return o.first.toStdString() == linha &&
+                                          o.second == QAccessible::NameChanged;
+                               }),
+                  ouvidos.end());
+    }
 }
 
 TEST(MesaNaTela, TheHintTheCountsAndTheToolbarsLightAnswerTheRealKeysAndMouse) {

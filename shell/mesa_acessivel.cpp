@@ -1,0 +1,233 @@
+#include "shell/mesa_acessivel.h"
+
+#include <QAccessible>
+#include <mutex>
+
+#include "shell/janela_mesa.h"
+
+namespace corvina {
+
+namespace {
+inline constexpr int kChaveBaralho = kCasaCompra;
+
+QString qt(const std::string& s) {
+    return QString::fromStdString(s);
+}
+} // namespace
+
+int chaveDaParte(const ItemDaLeitura& item, int indice) {
+    switch (item.papel) {
+    case Papel::Carta:
+        return indice; // slot 1 is key 0
+    case Papel::Baralho:
+        return kChaveBaralho;
+    case Papel::Descarte:
+        return kChaveBaralho + 1;
+    case Papel::MaoDaMaquina:
+        return kChaveBaralho + 2;
+    case Papel::Mensagens:
+        return kChaveBaralho + 3;
+    case Papel::Placar:
+        return kChaveBaralho + 4;
+    }
+    return kChaveBaralho;
+}
+
+MesaAcessivel::MesaAcessivel(JanelaMesa* janela) : QAccessibleWidget(janela, QAccessible::Client) {}
+
+JanelaMesa* MesaAcessivel::janela() const {
+    return static_cast<JanelaMesa*>(widget());
+}
+
+std::optional<ItemDaLeitura> MesaAcessivel::item(int chave) const {
+    const auto itens = janela()->leitura();
+    for (std::size_t i = 0; i < itens.size(); ++i)
+        if (chaveDaParte(itens[i], static_cast<int>(i)) == chave) return itens[i];
+    return std::nullopt;
+}
+
+ParteAcessivel* MesaAcessivel::parte(int chave) const {
+    ParteAcessivel*& p = partes_[static_cast<std::size_t>(chave)];
+    if (!p) {
+        p = new ParteAcessivel(janela(), chave);
+        QAccessible::registerAccessibleInterface(p); // Qt owns it from here
+    }
+    return p;
+}
+
+int MesaAcessivel::childCount() const {
+    return static_cast<int>(janela()->leitura().size());
+}
+
+QAccessibleInterface* MesaAcessivel::child(int index) const {
+    const auto itens = janela()->leitura();
+    if (index < 0 || index >= static_cast<int>(itens.size())) return nullptr;
+    return parte(chaveDaParte(itens[static_cast<std::size_t>(index)], index));
+}
+
+int MesaAcessivel::indexOfChild(const QAccessibleInterface* filho) const {
+    const auto* p = dynamic_cast<const ParteAcessivel*>(filho);
+    if (!p) return -1;
+    const auto itens = janela()->leitura();
+    for (std::size_t i = 0; i < itens.size(); ++i)
+        if (chaveDaParte(itens[i], static_cast<int>(i)) == p->chave()) return static_cast<int>(i);
+    return -1;
+}
+
+QAccessibleInterface* MesaAcessivel::childAt(int x, int y) const {
+    for (int i = childCount() - 1; i >= 0; --i)
+        if (QAccessibleInterface* c = child(i); c && c->rect().contains(x, y)) return c;
+    return nullptr;
+}
+
+QAccessibleInterface* MesaAcessivel::focusChild() const {
+    const auto itens = janela()->leitura();
+    for (std::size_t i = 0; i < itens.size(); ++i)
+        if (itens[i].foco) return parte(chaveDaParte(itens[i], static_cast<int>(i)));
+    return nullptr;
+}
+
+QString MesaAcessivel::text(QAccessible::Text t) const {
+    if (t == QAccessible::Name) return QStringLiteral("Mesa do Corvina");
+    return QAccessibleWidget::text(t);
+}
+
+ParteAcessivel::ParteAcessivel(JanelaMesa* janela, int chave) : janela_(janela), chave_(chave) {}
+
+JanelaMesa* ParteAcessivel::janelaViva() const {
+    return static_cast<JanelaMesa*>(janela_.data());
+}
+
+std::optional<ItemDaLeitura> ParteAcessivel::item() const {
+    JanelaMesa* j = janelaViva();
+    if (!j) return std::nullopt;
+    const auto itens = j->leitura();
+    for (std::size_t i = 0; i < itens.size(); ++i)
+        if (chaveDaParte(itens[i], static_cast<int>(i)) == chave_) return itens[i];
+    return std::nullopt;
+}
+
+bool ParteAcessivel::isValid() const {
+    return janela_ != nullptr;
+}
+
+QWindow* ParteAcessivel::window() const {
+    JanelaMesa* j = janelaViva();
+    return j ? j->window()->windowHandle() : nullptr;
+}
+
+QAccessibleInterface* ParteAcessivel::parent() const {
+    JanelaMesa* j = janelaViva();
+    return j ? QAccessible::queryAccessibleInterface(j) : nullptr;
+}
+
+QString ParteAcessivel::text(QAccessible::Text t) const {
+    const auto i = item();
+    if (!i) return {};
+    if (t == QAccessible::Name) return qt(i->nome);
+    if (t == QAccessible::Description) return qt(i->descricao);
+    return {};
+}
+
+QRect ParteAcessivel::rect() const {
+    JanelaMesa* j = janelaViva();
+    const auto i = item();
+    if (!j || !i) return {};
+    const QRect r = j->retanguloDaLeitura(*i);
+    return QRect(j->mapToGlobal(r.topLeft()), r.size());
+}
+
+QAccessible::Role ParteAcessivel::role() const {
+    const auto i = item();
+    switch (i ? i->papel : Papel::Placar) {
+    case Papel::Carta:
+        return QAccessible::ListItem;
+    case Papel::Baralho:
+    case Papel::Descarte:
+        return QAccessible::Button;
+    case Papel::Mensagens:
+        return QAccessible::StatusBar;
+    case Papel::MaoDaMaquina:
+    case Papel::Placar:
+        return QAccessible::StaticText;
+    }
+    return QAccessible::StaticText;
+}
+
+QAccessible::State ParteAcessivel::state() const {
+    QAccessible::State s;
+    const auto i = item();
+    if (!i) {
+        s.invisible = true;
+        return s;
+    }
+    if (i->papel == Papel::Carta) {
+        s.focusable = true;
+        s.selectable = true;
+        s.focused = i->foco;
+        s.selected = i->foco;
+    }
+    s.disabled =
+        (i->papel == Papel::Carta || i->papel == Papel::Baralho || i->papel == Papel::Descarte) &&
+        !i->acionavel;
+    return s;
+}
+
+void instalaMesaAcessivel() {
+    static std::once_flag feito;
+    std::call_once(feito, [] {
+        QAccessible::installFactory([](const QString&, QObject* o) -> QAccessibleInterface* {
+            auto* j = dynamic_cast<JanelaMesa*>(o);
+            return j ? new MesaAcessivel(j) : nullptr;
+        });
+    });
+}
+
+void AvisoAosLeitores::envia(QAccessibleEvent& e) const {
+    if (destino_)
+        destino_(&e);
+    else
+        QAccessible::updateAccessibility(&e);
+}
+
+void AvisoAosLeitores::avisa(JanelaMesa& janela) {
+    auto* mesa = dynamic_cast<MesaAcessivel*>(QAccessible::queryAccessibleInterface(&janela));
+    if (!mesa) return;
+    std::array<std::optional<ItemDaLeitura>, kChavesDasPartes> agora{};
+    int foco = -1;
+    const auto itens = janela.leitura();
+    for (std::size_t i = 0; i < itens.size(); ++i) {
+        const int chave = chaveDaParte(itens[i], static_cast<int>(i));
+        agora[static_cast<std::size_t>(chave)] = itens[i];
+        if (itens[i].foco) foco = chave;
+    }
+    for (int chave = 0; chave < kChavesDasPartes; ++chave) {
+        const auto& a = antes_[static_cast<std::size_t>(chave)];
+        const auto& b = agora[static_cast<std::size_t>(chave)];
+        if (a == b) continue;
+        ParteAcessivel* p = mesa->parte(chave);
+        const auto manda = [&](QAccessible::Event tipo) {
+            QAccessibleEvent e(p, tipo);
+            envia(e);
+        };
+        if (!a) manda(QAccessible::ObjectShow);
+        if (!b) manda(QAccessible::ObjectHide);
+        if (a && b && a->nome != b->nome) manda(QAccessible::NameChanged);
+        if (a && b && a->descricao != b->descricao) manda(QAccessible::DescriptionChanged);
+        if (a && b && (a->acionavel != b->acionavel || a->foco != b->foco)) {
+            QAccessible::State mudou;
+            mudou.disabled = a->acionavel != b->acionavel;
+            mudou.focused = mudou.selected = a->foco != b->foco;
+            QAccessibleStateChangeEvent e(p, mudou);
+            envia(e);
+        }
+    }
+    if (foco != focoAntes_ && foco >= 0 && janela.hasFocus()) {
+        QAccessibleEvent e(mesa->parte(foco), QAccessible::Focus);
+        envia(e);
+    }
+    antes_ = agora;
+    focoAntes_ = foco;
+}
+
+} // namespace corvina

@@ -1,0 +1,33 @@
+#pragma once
+// The table as a screen reader reads it: the player's cards by name, the stock, the top of the
+// pile, the machine's row, the line of messages and the score, in words. Plain data, read off
+// what the table shows; the screen turns it into accessible objects.
+
+#include <string>
+#include <vector>
+
+#include "core/jogo.h"
+#include "table/cena.h"
+
+namespace corvina {
+
+enum class Papel { Carta, Baralho, Descarte, MaoDaMaquina, Mensagens, Placar };
+
+struct ItemDaLeitura {
+    Papel papel = Papel::Carta;
+    std::string nome;        // read first: "sete de copas", "Baralho"
+    std::string descricao;   // read after it: "carta 3 de 9", "40 cartas"
+    std::vector<Peca> pecas; // where it stands; none for the line of messages
+    bool foco = false;       // the card the keys act on
+    bool acionavel = false;  // a click or a key on it does something now
+    friend bool operator==(const ItemDaLeitura&, const ItemDaLeitura&) = default;
+};
+
+// Cards 1.. of the player's row first, then the other parts in the order above.
+std::vector<ItemDaLeitura> leituraDaMesa(const Jogo& jogo, const Cena& cena);
+
+// The machine's last turn in words: "A CPU comprou do baralho e descartou o rei de paus.";
+// empty before its first discard of the hand.
+std::string ultimaJogadaDaMaquina(const Historico& historico);
+
+} // namespace corvina
