@@ -113,7 +113,10 @@ std::vector<ItemDaLeitura> JanelaMesa::leitura() const {
 }
 
 QRect JanelaMesa::retanguloDaLeitura(const ItemDaLeitura& item) const {
-    if (item.pecas.empty()) return kLabel1.united(kStatus); // the line of messages
+    // The labels are painted, not sprites: their places are the painter's.
+    if (item.papel == Papel::Mensagens) return kLabel1.united(kStatus);
+    if (item.papel == Papel::Placar)
+        return kPlacar1.translated(kPainel).united(kPlacar2.translated(kPainel));
     QRect r;
     for (const Peca p : item.pecas) r = r.united(retanguloDa(p));
     return r;

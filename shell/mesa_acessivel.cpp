@@ -222,7 +222,8 @@ void AvisoAosLeitores::avisa(JanelaMesa& janela) {
             envia(e);
         }
     }
-    if (foco != focoAntes_ && foco >= 0 && janela.hasFocus()) {
+    // The focus only moves by the keys pressed on the table: the window has the keyboard.
+    if (foco != focoAntes_ && foco >= 0) {
         QAccessibleEvent e(mesa->parte(foco), QAccessible::Focus);
         envia(e);
     }

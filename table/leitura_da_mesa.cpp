@@ -73,7 +73,7 @@ std::vector<ItemDaLeitura> leituraDaMesa(const Jogo& jogo, const Cena& cena) {
         const Peca p = peca::cj(i);
         itens.push_back({Papel::Carta,
                          nomeDaCarta(cartaNa(m.jogValor, m.jogNaipe, i)),
-                         "carta " + std::to_string(i) + " de " + std::to_string(m.qtdJog),
+                         "carta " + std::to_string(i),
                          {p},
                          cena.foco == i,
                          acionavel(cena, p)});
@@ -95,13 +95,17 @@ std::vector<ItemDaLeitura> leituraDaMesa(const Jogo& jogo, const Cena& cena) {
                      c && acionavel(cena, peca::kDiscartado)});
     itens.push_back(maoDaMaquina(jogo, cena));
 
-    // The line of messages carries the machine's last move, so that it is heard after its turn.
+    // The line of messages carries the machine's last move, so that it is heard after its turn;
+    // while the machine plays it only asks to wait, so that its steps are not read one by one.
     const Textos& t = cena.textos;
-    std::string linha;
-    if (!jogo.maosEmJogo) junta(linha, ultimaJogadaDaMaquina(jogo.historico));
-    if (t.avisoVisivel) junta(linha, t.aviso);
-    junta(linha, t.prompt);
-    if (t.statusVisivel) junta(linha, t.status);
+    std::string linha = texto::kAguardeMaquina;
+    if (!jogo.maosEmJogo) {
+        linha.clear();
+        junta(linha, ultimaJogadaDaMaquina(jogo.historico));
+        if (t.avisoVisivel) junta(linha, t.aviso);
+        junta(linha, t.prompt);
+        if (t.statusVisivel) junta(linha, t.status);
+    }
     itens.push_back({Papel::Mensagens, linha, "", {}, false, false});
 
     const std::string& nome = jogo.modulo.nomeJogador.empty() ? "Você" : jogo.modulo.nomeJogador;

@@ -16,7 +16,7 @@ enum class Papel { Carta, Baralho, Descarte, MaoDaMaquina, Mensagens, Placar };
 struct ItemDaLeitura {
     Papel papel = Papel::Carta;
     std::string nome;        // read first: "sete de copas", "Baralho"
-    std::string descricao;   // read after it: "carta 3 de 9", "40 cartas"
+    std::string descricao;   // read after it: "carta 3", "40 cartas"
     std::vector<Peca> pecas; // where it stands; none for the line of messages
     bool foco = false;       // the card the keys act on
     bool acionavel = false;  // a click or a key on it does something now
