@@ -87,6 +87,9 @@ cartas diz a jogada. A dica nunca joga por você, e some assim que a mesa muda.<
 <tr><td><b>O</b></td><td>ordenar (no modo assistido)</td></tr>
 <tr><td><b>Esc</b></td><td>tirar o foco</td></tr>
 </table>
+<p>Com um leitor de tela (o Orca, por exemplo), a mesa é lida: cada carta pelo nome, o baralho,
+a carta de cima do descarte, a mão da CPU, o placar, e a linha de mensagens, que depois da vez
+da CPU diz o que ela pegou e o que descartou.</p>
 
 <h2>Teclas</h2>
 <table cellspacing="4">
