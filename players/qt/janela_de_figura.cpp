@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QTimer>
 
+#include "players/qt/comando_acessivel.h"
 #include "players/qt/lugar_da_janela.h"
 
 namespace corvina {
@@ -29,9 +30,47 @@ void pinta(QLabel* l, QColor cor) {
 } // namespace
 
 Comando::Comando(const QString& texto, QWidget* pai, std::function<void()> aoClicar)
-    : QLabel(texto, pai), aoClicar_(std::move(aoClicar)) {
+    : QLabel(pai), aoClicar_(std::move(aoClicar)) {
+    // The text comes in only now: setting it asks for the label's accessible face, which must
+    // be a command's, not a plain label's, and is kept for the label's life.
+    instalaComandoAcessivel();
+    setText(texto);
     setCursor(Qt::PointingHandCursor);
+    setFocusPolicy(Qt::TabFocus);
     pinta(this, kComando);
+}
+
+void Comando::aciona() {
+    if (isEnabled() && aoClicar_) aoClicar_();
+}
+
+void Comando::keyPressEvent(QKeyEvent* e) {
+    // The window has seen the key first: Enter and Escape keep the meaning it gives them.
+    if (e->key() == Qt::Key_Space || e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter) {
+        aciona();
+        return e->accept();
+    }
+    QLabel::keyPressEvent(e);
+}
+
+void Comando::focusInEvent(QFocusEvent* e) {
+    focoDoTeclado_ = e->reason() == Qt::TabFocusReason || e->reason() == Qt::BacktabFocusReason;
+    QLabel::focusInEvent(e);
+    update();
+}
+
+void Comando::focusOutEvent(QFocusEvent* e) {
+    focoDoTeclado_ = false;
+    QLabel::focusOutEvent(e);
+    update();
+}
+
+void Comando::paintEvent(QPaintEvent* e) {
+    QLabel::paintEvent(e);
+    if (!hasFocus() || !focoDoTeclado_) return;
+    QPainter p(this);
+    p.setPen(QPen(palette().color(QPalette::WindowText), 1, Qt::DotLine));
+    p.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 void Comando::habilita(bool sim) {
@@ -49,7 +88,7 @@ void Comando::mouseReleaseEvent(QMouseEvent* e) {
     const bool clique =
         pressionado_ && e->button() == Qt::LeftButton && rect().contains(e->position().toPoint());
     pressionado_ = false;
-    if (clique && isEnabled() && aoClicar_) aoClicar_();
+    if (clique) aciona();
 }
 
 JanelaDeFigura::JanelaDeFigura(QWidget* dono, const QPixmap& figura, QSize tamanho)
@@ -111,8 +150,13 @@ void JanelaDeFigura::keyPressEvent(QKeyEvent* e) {
 }
 
 bool JanelaDeFigura::eventFilter(QObject* alvo, QEvent* e) {
-    if (e->type() == QEvent::KeyPress && alvo != this)
-        return tecla(static_cast<QKeyEvent*>(e)->key());
+    if (e->type() == QEvent::KeyPress && alvo != this) {
+        const int key = static_cast<QKeyEvent*>(e)->key();
+        const auto* c = dynamic_cast<Comando*>(alvo);
+        if (c && c->focoDoTeclado() && (key == Qt::Key_Return || key == Qt::Key_Enter))
+            return false; // a command reached by Tab answers Enter itself
+        return tecla(key);
+    }
     if (alvo == alca_ && e->type() == QEvent::MouseButtonPress &&
         static_cast<QMouseEvent*>(e)->button() == Qt::LeftButton) {
         moveJanela(*this);

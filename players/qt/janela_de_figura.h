@@ -8,19 +8,29 @@
 
 namespace corvina {
 
-// A text that acts on a click, with the hand cursor; grey and deaf while disabled.
+// A text that acts on a click, with the hand cursor; grey and deaf while disabled. Tab reaches
+// it (a dotted frame shows where), Space presses it, and accessibility tools see a button.
 class Comando : public QLabel {
   public:
     Comando(const QString& texto, QWidget* pai, std::function<void()> aoClicar);
     void habilita(bool sim);
+    // What a click does, when the command is enabled.
+    void aciona();
+    // The keys brought the focus here (Tab): Enter presses this command, not the window's.
+    bool focoDoTeclado() const { return hasFocus() && focoDoTeclado_; }
 
   protected:
     void mousePressEvent(QMouseEvent* e) override;
     void mouseReleaseEvent(QMouseEvent* e) override;
+    void keyPressEvent(QKeyEvent* e) override;
+    void focusInEvent(QFocusEvent* e) override;
+    void focusOutEvent(QFocusEvent* e) override;
+    void paintEvent(QPaintEvent* e) override;
 
   private:
     std::function<void()> aoClicar_;
     bool pressionado_ = false;
+    bool focoDoTeclado_ = false; // the frame shows only for a focus the keys brought
 };
 
 class JanelaDeFigura : public QDialog {

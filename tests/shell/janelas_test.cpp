@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -29,6 +30,7 @@
 #include "players/qt/frm_placar.h"
 #include "players/qt/frm_records.h"
 #include "players/qt/frm_sim_nao.h"
+#include "players/qt/janela_de_figura.h"
 #include "players/qt/settings.h"
 #include "shell/audio/musica_fluidsynth.h"
 #include "shell/corvinahlp/janela_da_ajuda.h"
@@ -364,6 +366,33 @@ TEST(FrmSimNao, EnterAnswersYesAndEscapeNo) {
     }
     quandoAbrir("FrmSimNao", [](QWidget* w) { clica(w, "Label3"); });
     EXPECT_FALSE(SimNao(nullptr, "Pergunta?", "Título"));
+}
+
+TEST(FrmSimNao, TabReachesACommandThatEnterOrSpacePressesAndToolsSeeButtons) {
+    // Enter on the window answers Sim; on Não, reached by Tab, it answers Não.
+    for (const Qt::Key k : {Qt::Key_Return, Qt::Key_Space}) {
+        quandoAbrir("FrmSimNao", [&](QWidget* w) {
+            auto* nao = parte<Comando>(w, "Label3");
+            for (int i = 0; i < 3 && !nao->focoDoTeclado(); ++i)
+                QTest::keyClick(w->focusWidget() ? w->focusWidget() : w, Qt::Key_Tab);
+            EXPECT_TRUE(nao->focoDoTeclado());
+            QTest::keyClick(nao, k);
+        });
+        EXPECT_FALSE(SimNao(nullptr, "Pergunta?", "Título"))
+            << QKeySequence(k).toString().toStdString();
+    }
+    quandoAbrir("FrmSimNao", [](QWidget* w) {
+        QAccessibleInterface* nao =
+            QAccessible::queryAccessibleInterface(parte<Comando>(w, "Label3"));
+        if (!nao || !nao->actionInterface()) { // a failure must still close the box
+            ADD_FAILURE() << "Não is no accessible button";
+            return clica(w, "Label3");
+        }
+        EXPECT_EQ(nao->role(), QAccessible::Button);
+        EXPECT_EQ(nao->text(QAccessible::Name), "Não");
+        nao->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    });
+    EXPECT_FALSE(SimNao(nullptr, "Pergunta?", "Título")) << "the tool's press answers Não";
 }
 
 TEST(FrmPlacar, TheNamesAndPointsBlinkOnlyAtTheEndOfAMatch) {
