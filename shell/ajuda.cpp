@@ -3,7 +3,7 @@
 #include <QFileInfo>
 #include <QProcess>
 
-#include "players/qt/pastas.h"
+#include "midia/pastas.h"
 
 namespace corvina {
 

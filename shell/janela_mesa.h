@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "core/jogo.h"
-#include "shell/imagens.h"
+#include "midia/imagens.h"
 #include "shell/mesa_acessivel.h"
 #include "shell/vista_qt.h"
 #include "table/comandos.h"

@@ -5,7 +5,7 @@
 
 #include "core/armazem.h"
 #include "core/jogo.h"
-#include "shell/audio/som.h"
+#include "midia/audio/som.h"
 #include "update/versao.h"
 
 namespace corvina {

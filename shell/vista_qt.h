@@ -5,8 +5,8 @@
 #include <QWidget>
 #include <functional>
 
+#include "midia/audio/som.h"
 #include "players/qt/settings.h"
-#include "shell/audio/som.h"
 #include "shell/janelas_qt.h"
 #include "table/vista_de_cena.h"
 

@@ -1,10 +1,12 @@
 # Fails when a source file includes what its folder must never reach: a Qt header under the
-# given folders, or a header of the machine's levels under the table's core.
+# given folders, or a header of a folder above its own.
 # Usage: cmake -DRAIZ=<source dir> -DPASTAS=core,machine [-DEXCETO=players/qt]
-#              [-DSEM_MAQUINA=core] -P checa_inclusoes.cmake
+#              [-DREGRAS=core:machine/|shell/,midia:shell/] -P checa_inclusoes.cmake
+# Each rule names a folder (its subfolders included, less the Qt adapters named in EXCETO,
+# which have rules of their own) and the prefixes its includes must avoid.
 string(REPLACE "," ";" PASTAS "${PASTAS}")
 string(REPLACE "," ";" EXCETO "${EXCETO}")
-string(REPLACE "," ";" SEM_MAQUINA "${SEM_MAQUINA}")
+string(REPLACE "," ";" REGRAS "${REGRAS}")
 
 # Lists "file: lines" for each source under `pastas` (less `exceto`) with an include matching.
 function(procura saida pastas exceto padrao)
@@ -29,7 +31,15 @@ procura(qt "${PASTAS}" "${EXCETO}" "[<\"](Q[A-Za-z]|qt)")
 if(qt)
   message(FATAL_ERROR "Qt is included where only the standard library may be:\n${qt}")
 endif()
-procura(maquina "${SEM_MAQUINA}" "" "[<\"]machine/")
-if(maquina)
-  message(FATAL_ERROR "The table's core includes the machine:\n${maquina}")
-endif()
+foreach(regra IN LISTS REGRAS)
+  string(REPLACE ":" ";" partes "${regra}")
+  list(GET partes 0 pasta)
+  list(GET partes 1 acima)
+  # A folder's rule leaves its Qt adapters to rules of their own.
+  set(fora "${EXCETO}")
+  list(REMOVE_ITEM fora "${pasta}")
+  procura(achados "${pasta}" "${fora}" "[<\"](${acima})")
+  if(achados)
+    message(FATAL_ERROR "${pasta}/ includes a folder above it (${acima}):\n${achados}")
+  endif()
+endforeach()

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <string>
 
-#include "players/qt/janelas_figuras.h"
+#include "midia/janelas_figuras.h"
 #include "players/qt/lugar_da_janela.h"
 
 namespace corvina {

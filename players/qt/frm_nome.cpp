@@ -5,9 +5,9 @@
 #include <QKeyEvent>
 
 #include "core/ajustes.h"
+#include "midia/janelas_figuras.h"
 #include "players/qt/caixa_do_sistema.h"
 #include "players/qt/frm_novo_jogador.h"
-#include "players/qt/janelas_figuras.h"
 #include "players/qt/lugar_da_janela.h"
 
 namespace corvina {

@@ -3,9 +3,9 @@
 
 #include "core/armazem.h"
 #include "core/module1.h"
+#include "midia/audio/som.h"
 #include "players/escolha_de_jogador.h"
 #include "players/qt/janela_de_figura.h"
-#include "shell/audio/som.h"
 
 class QCheckBox;
 class QComboBox;

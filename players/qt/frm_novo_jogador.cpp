@@ -2,8 +2,8 @@
 
 #include <QLineEdit>
 
+#include "midia/janelas_figuras.h"
 #include "players/qt/frm_sim_nao.h"
-#include "players/qt/janelas_figuras.h"
 #include "players/qt/lugar_da_janela.h"
 
 namespace corvina {

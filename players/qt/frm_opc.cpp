@@ -4,8 +4,8 @@
 #include <QSlider>
 
 #include "core/ajustes.h"
+#include "midia/janelas_figuras.h"
 #include "players/opcoes.h"
-#include "players/qt/janelas_figuras.h"
 #include "players/qt/lugar_da_janela.h"
 
 namespace corvina {

@@ -3,7 +3,7 @@
 #include <QMouseEvent>
 
 #include "core/textos.h"
-#include "players/qt/janelas_figuras.h"
+#include "midia/janelas_figuras.h"
 #include "players/qt/lugar_da_janela.h"
 
 namespace corvina {

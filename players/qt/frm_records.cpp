@@ -3,8 +3,8 @@
 #include <QMouseEvent>
 
 #include "core/textos.h"
+#include "midia/janelas_figuras.h"
 #include "players/qt/frm_sim_nao.h"
-#include "players/qt/janelas_figuras.h"
 #include "players/qt/lugar_da_janela.h"
 #include "players/textos_jogadores.h"
 

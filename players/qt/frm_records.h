@@ -5,9 +5,9 @@
 
 #include "core/armazem.h"
 #include "core/module1.h"
+#include "midia/audio/som.h"
 #include "players/hall_da_fama.h"
 #include "players/qt/janela_de_figura.h"
-#include "shell/audio/som.h"
 
 namespace corvina {
 

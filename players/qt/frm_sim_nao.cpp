@@ -1,8 +1,8 @@
 #include "players/qt/frm_sim_nao.h"
 
+#include "midia/janelas_figuras.h"
 #include "players/qt/caixa_do_sistema.h"
 #include "players/qt/janela_de_figura.h"
-#include "players/qt/janelas_figuras.h"
 #include "players/qt/lugar_da_janela.h"
 
 namespace corvina {

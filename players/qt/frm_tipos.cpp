@@ -2,7 +2,7 @@
 
 #include "core/ajustes.h"
 #include "core/textos.h"
-#include "players/qt/janelas_figuras.h"
+#include "midia/janelas_figuras.h"
 #include "players/qt/lugar_da_janela.h"
 #include "players/textos_jogadores.h"
 

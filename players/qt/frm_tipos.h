@@ -2,8 +2,8 @@
 // frmtipos: the eight card backs; a click chooses one.
 
 #include "core/module1.h"
+#include "midia/audio/som.h"
 #include "players/qt/janela_de_figura.h"
-#include "shell/audio/som.h"
 
 namespace corvina {
 

@@ -7,10 +7,10 @@
 #include <sys/stat.h>
 
 #include "core/ajustes.h"
+#include "midia/pastas.h"
 #include "players/arquivo_regular.h"
 #include "players/ini.h"
 #include "players/lugar_do_ajuste.h"
-#include "players/qt/pastas.h"
 
 namespace corvina {
 

@@ -3,8 +3,8 @@
 #include <QKeySequence>
 #include <QShortcut>
 
+#include "midia/imagens.h"
 #include "shell/corvinahlp/texto_da_ajuda.h"
-#include "shell/imagens.h"
 
 namespace corvina {
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "shell/audio/som.h"
+#include "midia/audio/som.h"
 
 namespace corvina {
 

@@ -14,9 +14,9 @@
 #include "core/ajustes.h"
 #include "core/pecas.h"
 #include "machine/nivel_da_mesa.h"
+#include "midia/imagens.h"
 #include "players/qt/frm_nivel.h"
 #include "players/qt/settings.h"
-#include "shell/imagens.h"
 #include "shell/janela_mesa.h"
 #include "table/comandos.h"
 

@@ -11,8 +11,8 @@
 #include <QTimer>
 #include <limits>
 
+#include "midia/pastas.h"
 #include "players/arquivo_regular.h"
-#include "players/qt/pastas.h"
 #include "update/resposta.h"
 
 namespace corvina {

@@ -8,9 +8,9 @@
 #include <QUrl>
 
 #include "core/ajustes.h"
+#include "midia/janelas_figuras.h"
 #include "players/qt/caixa_do_sistema.h"
 #include "players/qt/janela_de_figura.h"
-#include "players/qt/janelas_figuras.h"
 #include "players/qt/lugar_da_janela.h"
 #include "update/campos.h"
 #include "update/enderecos.h"

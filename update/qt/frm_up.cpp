@@ -12,9 +12,9 @@
 #include <cstdlib>
 
 #include "core/ajustes.h"
+#include "midia/pastas.h"
 #include "players/qt/caixa_do_sistema.h"
 #include "players/qt/lugar_da_janela.h"
-#include "players/qt/pastas.h"
 #include "update/assinatura.h"
 #include "update/enderecos.h"
 #include "update/qt/progress_bar_xp.h"

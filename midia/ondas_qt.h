@@ -7,7 +7,7 @@
 #include <map>
 #include <memory>
 
-#include "shell/audio/som.h"
+#include "midia/audio/som.h"
 
 class QAudioSink;
 

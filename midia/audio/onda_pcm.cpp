@@ -1,4 +1,4 @@
-#include "shell/audio/onda_pcm.h"
+#include "midia/audio/onda_pcm.h"
 
 namespace corvina {
 

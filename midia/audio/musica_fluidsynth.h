@@ -10,7 +10,7 @@
 #include <thread>
 #include <vector>
 
-#include "shell/audio/som.h"
+#include "midia/audio/som.h"
 
 namespace corvina {
 

@@ -1,4 +1,4 @@
-#include "shell/audio/nome_do_som.h"
+#include "midia/audio/nome_do_som.h"
 
 #include <system_error>
 

@@ -1,4 +1,4 @@
-#include "shell/audio/musica_fluidsynth.h"
+#include "midia/audio/musica_fluidsynth.h"
 
 #include <alsa/asoundlib.h>
 #include <fluidsynth.h>
@@ -6,7 +6,7 @@
 #include <cctype>
 #include <filesystem>
 
-#include "shell/audio/nome_do_som.h"
+#include "midia/audio/nome_do_som.h"
 
 namespace corvina {
 

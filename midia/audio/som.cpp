@@ -1,7 +1,7 @@
-#include "shell/audio/som.h"
+#include "midia/audio/som.h"
 
 #include "core/caminhos.h"
-#include "shell/audio/nome_do_som.h"
+#include "midia/audio/nome_do_som.h"
 
 namespace corvina {
 

@@ -1,4 +1,4 @@
-#include "players/qt/pastas.h"
+#include "midia/pastas.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,4 +1,4 @@
-#include "shell/imagens.h"
+#include "midia/imagens.h"
 
 #include <QBitmap>
 #include <QColor>
@@ -9,7 +9,7 @@
 #include <QPainter>
 #include <cstdio>
 
-#include "players/qt/pastas.h"
+#include "midia/pastas.h"
 
 namespace corvina {
 

@@ -1,4 +1,4 @@
-#include "shell/ondas_qt.h"
+#include "midia/ondas_qt.h"
 
 #include <QAudioFormat>
 #include <QAudioSink>
@@ -8,7 +8,7 @@
 #include <QTimer>
 #include <QtGlobal>
 
-#include "shell/audio/onda_pcm.h"
+#include "midia/audio/onda_pcm.h"
 
 namespace corvina {
 

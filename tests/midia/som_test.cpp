@@ -9,10 +9,10 @@
 #include <iterator>
 
 #include "apoio/som_gravado.h"
-#include "shell/audio/musica_fluidsynth.h"
-#include "shell/audio/nome_do_som.h"
-#include "shell/audio/onda_pcm.h"
-#include "shell/imagens.h"
+#include "midia/audio/musica_fluidsynth.h"
+#include "midia/audio/nome_do_som.h"
+#include "midia/audio/onda_pcm.h"
+#include "midia/imagens.h"
 
 namespace corvina {
 namespace {

@@ -1,10 +1,10 @@
-#include "players/qt/janelas_figuras.h"
+#include "midia/janelas_figuras.h"
 
 #include <QColor>
 #include <map>
 #include <string>
 
-#include "shell/imagens.h"
+#include "midia/imagens.h"
 
 namespace corvina {
 
