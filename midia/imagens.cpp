@@ -64,15 +64,24 @@ QPixmap cartaSubstituta(const QString& rotulo) {
     return p;
 }
 
-QPixmap Imagens::carrega(const QString& arquivo, QSize tamanho, const QString& rotulo) {
-    QPixmap p(pasta_ + "/" + arquivo);
-    if (!p.isNull()) return p;
-    faltando_ << arquivo;
-    if (!rotulo.isEmpty()) return cartaSubstituta(rotulo);
-    QPixmap substituta(tamanho);
-    substituta.fill(QColor(200, 200, 200));
-    return substituta;
+int escalaDasFiguras(qreal razao) {
+    return razao > 1.0 ? 2 : 1;
 }
+
+QString arquivoNaEscala(const QString& arquivo, int escala) {
+    if (escala == 1) return arquivo;
+    const QString sem = arquivo.chopped(4); // ".png"
+    return QString("%1@%2x.png").arg(sem).arg(escala);
+}
+
+namespace {
+// The file at the scale asked for, with its pixel ratio; null when it can't be read.
+QPixmap leNaEscala(const QString& pasta, const QString& arquivo, int escala) {
+    QPixmap p(pasta + "/" + arquivoNaEscala(arquivo, escala));
+    if (!p.isNull()) p.setDevicePixelRatio(escala);
+    return p;
+}
+} // namespace
 
 void avisaFigurasFaltando(const QStringList& arquivos) {
     static QStringList ditos;
@@ -85,8 +94,10 @@ void avisaFigurasFaltando(const QStringList& arquivos) {
                  qPrintable(novos.join(", ")), qPrintable(pastaDeImagens()));
 }
 
-QPixmap figuraDoSplash() {
-    QPixmap p(pastaDeImagens() + "/splash.png");
+QPixmap figuraDoSplash(qreal razao) {
+    const int escala = escalaDasFiguras(razao);
+    QPixmap p = leNaEscala(pastaDeImagens(), "splash.png", escala);
+    if (p.isNull() && escala > 1) p = leNaEscala(pastaDeImagens(), "splash.png", 1);
     if (!p.isNull()) return p;
     avisaFigurasFaltando({"splash.png"});
     p = QPixmap(500, 160);
@@ -97,32 +108,68 @@ QPixmap figuraDoSplash() {
 Imagens::Imagens(const QString& pasta) : pasta_(pasta) {
     nada_ = QPixmap(kCarta);
     nada_.fill(Qt::transparent);
+    QStringList faltando;
+    conjuntos_[0] = carregaConjunto(1, faltando);
+    faltando_ = static_cast<int>(faltando.size());
+    avisaFigurasFaltando(faltando);
+}
+
+Imagens::Conjunto Imagens::carregaConjunto(int escala, QStringList& faltando) const {
+    const Conjunto* base = escala > 1 ? &*conjuntos_[0] : nullptr;
+    Conjunto c;
+    const auto carrega = [&](const QString& arquivo, QSize tamanho, const QString& rotulo,
+                             const QPixmap* daBase) {
+        QPixmap p = leNaEscala(pasta_, arquivo, escala);
+        if (!p.isNull()) return p;
+        faltando << arquivoNaEscala(arquivo, escala);
+        if (daBase) return *daBase;
+        if (!rotulo.isEmpty()) return cartaSubstituta(rotulo);
+        QPixmap substituta(tamanho);
+        substituta.fill(QColor(200, 200, 200));
+        return substituta;
+    };
     for (int n = 1; n <= kNaipes; ++n)
         for (int v = 1; v <= kValores; ++v) {
             const Figura f = figuraDaFace(n, v);
-            figuras_[f] = carrega(QString("cartas/%1%2.png").arg(kSeries[n - 1]).arg(v), kCarta,
-                                  QString(nomeDoValor(v)) + kSimbolos[n - 1]);
+            c.figuras[f] = carrega(QString("cartas/%1%2.png").arg(kSeries[n - 1]).arg(v), kCarta,
+                                   QString(nomeDoValor(v)) + kSimbolos[n - 1],
+                                   base ? &base->figuras[f] : nullptr);
         }
-    for (int t = 1; t <= 8; ++t)
-        figuras_[figuraDoVerso(t)] =
-            carrega(QString("cartas/tipotC%1.png").arg(t), kCarta, QString("#%1").arg(t));
-    for (std::size_t f = 0; f < figuras_.size(); ++f)
-        if (!figuras_[f].isNull()) recortadas_[f] = recorta(figuras_[f]);
-    for (int i = 0; i < 6; ++i) botoes_[i] = carrega(QString("btn2_%1.png").arg(i + 1), kBotoes[i]);
-    mesa_ = carrega("mesa.png", QSize(800, 600));
-    avisaFigurasFaltando(faltando_);
+    for (int t = 1; t <= 8; ++t) {
+        const Figura f = figuraDoVerso(t);
+        c.figuras[f] = carrega(QString("cartas/tipotC%1.png").arg(t), kCarta, QString("#%1").arg(t),
+                               base ? &base->figuras[f] : nullptr);
+    }
+    for (std::size_t f = 0; f < c.figuras.size(); ++f)
+        if (!c.figuras[f].isNull()) c.recortadas[f] = recorta(c.figuras[f]);
+    for (int i = 0; i < 6; ++i)
+        c.botoes[i] = carrega(QString("btn2_%1.png").arg(i + 1), kBotoes[i], {},
+                              base ? &base->botoes[i] : nullptr);
+    c.mesa = carrega("mesa.png", QSize(800, 600), {}, base ? &base->mesa : nullptr);
+    return c;
+}
+
+void Imagens::paraARazao(qreal razao) const {
+    const int i = escalaDasFiguras(razao) - 1;
+    if (!conjuntos_[i]) {
+        QStringList faltando;
+        conjuntos_[i] = carregaConjunto(i + 1, faltando);
+        avisaFigurasFaltando(faltando);
+    }
+    atual_ = i;
 }
 
 const QPixmap& Imagens::da(Figura f) const {
-    if (f < 0 || static_cast<std::size_t>(f) >= figuras_.size() || figuras_[f].isNull())
-        return nada_;
-    return figuras_[f];
+    const auto& figuras = conjunto().figuras;
+    if (f < 0 || static_cast<std::size_t>(f) >= figuras.size() || figuras[f].isNull()) return nada_;
+    return figuras[f];
 }
 
 const QPixmap& Imagens::recortada(Figura f) const {
-    if (f < 0 || static_cast<std::size_t>(f) >= recortadas_.size() || recortadas_[f].isNull())
+    const auto& recortadas = conjunto().recortadas;
+    if (f < 0 || static_cast<std::size_t>(f) >= recortadas.size() || recortadas[f].isNull())
         return nada_;
-    return recortadas_[f];
+    return recortadas[f];
 }
 
 } // namespace corvina

@@ -7,28 +7,47 @@
 #include <QString>
 #include <QStringList>
 #include <array>
+#include <optional>
 
 #include "table/cena.h"
 
 namespace corvina {
 
+// The pictures come at 1x and at 2x ("name@2x.png"); a screen scaled above 100% gets the 2x set,
+// drawn at the same logical size, so that the cards stay sharp.
+int escalaDasFiguras(qreal razao);
+// "cartas/copa1.png" at scale 2 is "cartas/copa1@2x.png".
+QString arquivoNaEscala(const QString& arquivo, int escala);
+
 class Imagens {
   public:
     explicit Imagens(const QString& pasta);
 
+    // Chooses the set for a screen's device pixel ratio; the 2x set is read the first time.
+    void paraARazao(qreal razao) const;
+    int escala() const { return atual_ + 1; }
+
     // The picture, and the same cut to the card's outline (the key colour made clear).
     const QPixmap& da(Figura f) const;
     const QPixmap& recortada(Figura f) const;
-    const QPixmap& mesa() const { return mesa_; }
-    const QPixmap& botaoAceso(int i) const { return botoes_[i - 1]; }
-    int faltando() const { return static_cast<int>(faltando_.size()); }
+    const QPixmap& mesa() const { return conjunto().mesa; }
+    const QPixmap& botaoAceso(int i) const { return conjunto().botoes[i - 1]; }
+    // The pictures of the 1x set that could not be read.
+    int faltando() const { return faltando_; }
 
   private:
-    QPixmap carrega(const QString& arquivo, QSize tamanho, const QString& rotulo = {});
-    std::array<QPixmap, 120> figuras_, recortadas_;
-    std::array<QPixmap, 6> botoes_;
-    QPixmap mesa_, nada_;
-    QStringList faltando_;
+    struct Conjunto {
+        std::array<QPixmap, 120> figuras, recortadas;
+        std::array<QPixmap, 6> botoes;
+        QPixmap mesa;
+    };
+    // A picture missing at 2x is the 1x one, enlarged; missing at 1x, a stand-in.
+    Conjunto carregaConjunto(int escala, QStringList& faltando) const;
+    const Conjunto& conjunto() const { return *conjuntos_[atual_]; }
+    mutable std::array<std::optional<Conjunto>, 2> conjuntos_;
+    mutable int atual_ = 0;
+    QPixmap nada_;
+    int faltando_ = 0;
     QString pasta_;
 };
 
@@ -37,8 +56,8 @@ QString pastaDeImagens();
 // The sounds and the music lie in a folder of their own there.
 QString pastaDosSons();
 
-// The splash alone, loaded before anything else.
-QPixmap figuraDoSplash();
+// The splash alone, loaded before anything else, for the screen's device pixel ratio.
+QPixmap figuraDoSplash(qreal razao = 1);
 
 // Says on standard error, once for each file, which pictures could not be read.
 void avisaFigurasFaltando(const QStringList& arquivos);

@@ -6,7 +6,7 @@
 
 namespace corvina {
 
-// "frmnome", "frmrecords", ...
-const QPixmap& figuraDaJanela(const char* nome);
+// "frmnome", "frmrecords", ..., for a screen's device pixel ratio (the 2x surface above 100%).
+const QPixmap& figuraDaJanela(const char* nome, qreal razao = 1);
 
 } // namespace corvina

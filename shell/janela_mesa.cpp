@@ -128,7 +128,10 @@ QRect JanelaMesa::retanguloDa(Peca peca) const {
 }
 
 void JanelaMesa::paintEvent(QPaintEvent*) {
+    // The pictures of the screen the window is on now: 2x on a scaled one.
+    imagens_.paraARazao(devicePixelRatioF());
     QPainter p(this);
+    p.setRenderHint(QPainter::SmoothPixmapTransform, true);
     p.drawPixmap(0, 0, imagens_.mesa());
     const int aceso = jogo_.mesa.botaoAtivo;
     if (aceso >= 1 && aceso <= 6)

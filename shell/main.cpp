@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QScreen>
 #include <QTimer>
 #include <cstdio>
 #include <cstdlib>
@@ -70,7 +71,9 @@ int main(int argc, char** argv) {
     QApplication::setApplicationVersion(QString::fromStdString(versaoParaChecagem(versao)));
     instalaMesaAcessivel(); // before any window, so that the table is never read as a blank
 
-    const QPixmap figura = figuraDoSplash();
+    const QPixmap figura = figuraDoSplash(QGuiApplication::primaryScreen()
+                                              ? QGuiApplication::primaryScreen()->devicePixelRatio()
+                                              : 1.0);
     Splash splash(figura, QString::fromStdString(versaoParaUsuario(versao)));
     CentraJanela(splash);
     splash.show();

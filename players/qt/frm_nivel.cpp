@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <string>
 
-#include "midia/janelas_figuras.h"
 #include "players/qt/lugar_da_janela.h"
 
 namespace corvina {
@@ -16,7 +15,7 @@ constexpr int kTopoDasOpcoes = 46, kAlturaDaOpcao = 56;
 } // namespace
 
 FrmNivel::FrmNivel(QWidget* dono, Module1& modulo, Armazem& armazem)
-    : JanelaDeFigura(dono, figuraDaJanela("frmnivel"), {380, 270}), escolha_(modulo, armazem) {
+    : JanelaDeFigura(dono, "frmnivel", {380, 270}), escolha_(modulo, armazem) {
     setObjectName("FrmNivel");
     setWindowTitle("Nível do adversário");
     alca(rotulo("Titulo", "", QRect(0, 0, 380, 36)));

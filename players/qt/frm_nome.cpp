@@ -5,7 +5,6 @@
 #include <QKeyEvent>
 
 #include "core/ajustes.h"
-#include "midia/janelas_figuras.h"
 #include "players/qt/caixa_do_sistema.h"
 #include "players/qt/frm_novo_jogador.h"
 #include "players/qt/lugar_da_janela.h"
@@ -22,8 +21,7 @@ const char* const kEstiloLista =
 } // namespace
 
 FrmNome::FrmNome(QWidget* dono, Module1& modulo, Armazem& armazem, Som* som, bool cancelavel)
-    : JanelaDeFigura(dono, figuraDaJanela("frmnome"), {420, 288}), modulo_(modulo),
-      armazem_(armazem), som_(som),
+    : JanelaDeFigura(dono, "frmnome", {420, 288}), modulo_(modulo), armazem_(armazem), som_(som),
       escolha_(modulo, armazem,
                {[this](const std::string& t) {
                     return perguntaDoSistema(this, QString::fromStdString(t), {},

@@ -2,7 +2,6 @@
 
 #include <QLineEdit>
 
-#include "midia/janelas_figuras.h"
 #include "players/qt/frm_sim_nao.h"
 #include "players/qt/lugar_da_janela.h"
 
@@ -10,7 +9,7 @@ namespace corvina {
 
 FrmNovoJogador::FrmNovoJogador(QWidget* dono, Module1& modulo, Armazem& armazem,
                                std::function<void(const std::string&)> adicionaNaLista)
-    : JanelaDeFigura(dono, figuraDaJanela("frmnovojogador"), {344, 130}),
+    : JanelaDeFigura(dono, "frmnovojogador", {344, 130}),
       novo_(modulo, armazem,
             {[this](const std::string& m, const std::string& t) { return SimNao(this, m, t); },
              std::move(adicionaNaLista)}) {

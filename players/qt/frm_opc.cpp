@@ -4,7 +4,6 @@
 #include <QSlider>
 
 #include "core/ajustes.h"
-#include "midia/janelas_figuras.h"
 #include "players/opcoes.h"
 #include "players/qt/lugar_da_janela.h"
 
@@ -15,8 +14,7 @@ const char* const kEstiloCaixa = "QCheckBox { color: rgb(240,236,220); }";
 }
 
 FrmOpc::FrmOpc(QWidget* dono, Module1& modulo, Armazem& armazem)
-    : JanelaDeFigura(dono, figuraDaJanela("frmopc"), {376, 235}), modulo_(modulo),
-      armazem_(armazem) {
+    : JanelaDeFigura(dono, "frmopc", {376, 235}), modulo_(modulo), armazem_(armazem) {
     setObjectName("FrmOpc");
     const auto caixa = [this](const char* nome, const QString& texto, QRect lugar, bool marcada) {
         auto* c = new QCheckBox(texto, this);

@@ -3,13 +3,12 @@
 #include <QMouseEvent>
 
 #include "core/textos.h"
-#include "midia/janelas_figuras.h"
 #include "players/qt/lugar_da_janela.h"
 
 namespace corvina {
 
 FrmPlacar::FrmPlacar(QWidget* dono, const Module1& modulo, const Placar& placar)
-    : JanelaDeFigura(dono, figuraDaJanela("frmplacar"), {345, 176}) {
+    : JanelaDeFigura(dono, "frmplacar", {345, 176}) {
     setObjectName("FrmPlacar");
     setMouseTracking(true);
     alca(rotulo("Image1", "", emPixels(0, 0, 5145, 270)));

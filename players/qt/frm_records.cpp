@@ -3,7 +3,6 @@
 #include <QMouseEvent>
 
 #include "core/textos.h"
-#include "midia/janelas_figuras.h"
 #include "players/qt/frm_sim_nao.h"
 #include "players/qt/lugar_da_janela.h"
 #include "players/textos_jogadores.h"
@@ -15,8 +14,8 @@ const QColor kBranco(255, 255, 255), kVerde(0, 255, 0);
 }
 
 FrmRecords::FrmRecords(QWidget* dono, const Module1& modulo, Armazem& armazem, Som* som)
-    : JanelaDeFigura(dono, figuraDaJanela("frmrecords"), {642, 317}), modulo_(modulo),
-      armazem_(armazem), som_(som) {
+    : JanelaDeFigura(dono, "frmrecords", {642, 317}), modulo_(modulo), armazem_(armazem),
+      som_(som) {
     setObjectName("FrmRecords");
     setWindowTitle("Hall da Fama");
     for (int r = 0; r < kLinhasDoHall; ++r) {

@@ -1,6 +1,5 @@
 #include "players/qt/frm_sim_nao.h"
 
-#include "midia/janelas_figuras.h"
 #include "players/qt/caixa_do_sistema.h"
 #include "players/qt/janela_de_figura.h"
 #include "players/qt/lugar_da_janela.h"
@@ -11,7 +10,7 @@ namespace {
 class FrmSimNao : public JanelaDeFigura {
   public:
     FrmSimNao(QWidget* dono, const QString& mensagem, const QString& titulo)
-        : JanelaDeFigura(dono, figuraDaJanela("frmsimnao"), {400, 130}) {
+        : JanelaDeFigura(dono, "frmsimnao", {400, 130}) {
         setObjectName("FrmSimNao");
         setWindowTitle(titulo);
         // The title twice, a shadow under it.

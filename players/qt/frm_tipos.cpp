@@ -2,14 +2,13 @@
 
 #include "core/ajustes.h"
 #include "core/textos.h"
-#include "midia/janelas_figuras.h"
 #include "players/qt/lugar_da_janela.h"
 #include "players/textos_jogadores.h"
 
 namespace corvina {
 
 FrmTipos::FrmTipos(QWidget* dono, Module1& modulo, Som* som)
-    : JanelaDeFigura(dono, figuraDaJanela("frmtipos"), {338, 261}), modulo_(modulo), som_(som) {
+    : JanelaDeFigura(dono, "frmtipos", {338, 261}), modulo_(modulo), som_(som) {
     setObjectName("frmtipos");
     alca(rotulo("Image1", "", emPixels(0, 0, 5100, 540)));
     const int lefts[] = {210, 1410, 2610, 3810}, tops[] = {645, 2205};

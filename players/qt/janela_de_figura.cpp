@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QTimer>
 
+#include "midia/janelas_figuras.h"
 #include "players/qt/comando_acessivel.h"
 #include "players/qt/lugar_da_janela.h"
 
@@ -91,7 +92,7 @@ void Comando::mouseReleaseEvent(QMouseEvent* e) {
     if (clique) aciona();
 }
 
-JanelaDeFigura::JanelaDeFigura(QWidget* dono, const QPixmap& figura, QSize tamanho)
+JanelaDeFigura::JanelaDeFigura(QWidget* dono, const char* figura, QSize tamanho)
     : QDialog(dono, Qt::Dialog | Qt::FramelessWindowHint), figura_(figura) {
     setFixedSize(tamanho);
     setModal(true);
@@ -141,7 +142,8 @@ void JanelaDeFigura::showEvent(QShowEvent* e) {
 
 void JanelaDeFigura::paintEvent(QPaintEvent*) {
     QPainter p(this);
-    p.drawPixmap(0, 0, figura_);
+    p.setRenderHint(QPainter::SmoothPixmapTransform, true);
+    p.drawPixmap(0, 0, figuraDaJanela(figura_, devicePixelRatioF()));
 }
 
 void JanelaDeFigura::keyPressEvent(QKeyEvent* e) {

@@ -35,7 +35,8 @@ class Comando : public QLabel {
 
 class JanelaDeFigura : public QDialog {
   public:
-    JanelaDeFigura(QWidget* dono, const QPixmap& figura, QSize tamanho);
+    // `figura`: the surface's name ("frmnome"), read for the screen the window is on.
+    JanelaDeFigura(QWidget* dono, const char* figura, QSize tamanho);
 
   protected:
     static QRect emPixels(int left, int top, int width, int height); // from twips
@@ -60,7 +61,7 @@ class JanelaDeFigura : public QDialog {
     bool eventFilter(QObject* alvo, QEvent* e) override;
 
   private:
-    QPixmap figura_;
+    const char* figura_;
     QWidget* alca_ = nullptr;
     bool ativada_ = false;
 };

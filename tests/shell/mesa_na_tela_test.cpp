@@ -272,6 +272,42 @@ TEST(MesaNaTela, AScreenReaderReadsTheTableAndHearsItsChanges) {
     }
 }
 
+// Run at the screen's ratio of the process: 1, and 2 under QT_SCALE_FACTOR=2 (a test of its own).
+TEST(MesaNaTela, CardsAreDrawnFromThePicturesOfTheScreensRatio) {
+    MesaNaTela t;
+    const qreal razao = t.janela.devicePixelRatioF();
+    const QImage tela = t.janela.grab().toImage().convertToFormat(QImage::Format_RGB32);
+    ASSERT_EQ(tela.size(), QSize(800, 600) * razao);
+    const int escala = escalaDasFiguras(razao);
+
+    // The first card of the row, its left part (its edge and its value) where no card lies over.
+    const Carta c = cartaNa(t.jogo.mesa.jogValor, t.jogo.mesa.jogNaipe, 1);
+    const char* const series[] = {"coracao", "copa", "espada", "ramo"};
+    const QString arquivo = QString("cartas/%1%2.png").arg(series[c.naipe - 1]).arg(c.valor);
+    const QImage daEscala = QImage(pastaDeImagens() + "/" + arquivoNaEscala(arquivo, escala))
+                                .convertToFormat(QImage::Format_RGB32);
+    const QImage umX =
+        QImage(pastaDeImagens() + "/" + arquivo).convertToFormat(QImage::Format_RGB32);
+    ASSERT_EQ(daEscala.size(), QSize(71, 96) * escala);
+    const QRect lugar = t.janela.retanguloDa(peca::cj(1));
+    const QRect parte(0, 0, 24 * escala, 96 * escala);
+    const QImage naTela = tela.copy(parte.translated(lugar.topLeft() * razao));
+    const auto iguais = [&](const QImage& a, const QImage& b) {
+        int n = 0;
+        for (int y = 0; y < parte.height(); ++y)
+            for (int x = 0; x < parte.width(); ++x) n += a.pixel(x, y) == b.pixel(x, y);
+        return static_cast<double>(n) / (parte.width() * parte.height());
+    };
+    const double comOArquivo = iguais(naTela, daEscala);
+    EXPECT_GT(comOArquivo, 0.99) << "drawn from " << arquivoNaEscala(arquivo, escala).toStdString();
+    if (escala > 1) {
+        // The 1x picture enlarged is another picture: its edges and its value come in steps
+        // (the paper between them is alike in both).
+        const QImage aumentada = umX.scaled(umX.size() * escala);
+        EXPECT_LT(iguais(naTela, aumentada), comOArquivo - 0.02);
+    }
+}
+
 TEST(MesaNaTela, TheHintTheCountsAndTheToolbarsLightAnswerTheRealKeysAndMouse) {
     MesaNaTela t;
     for (const bool aberta : {true, false}) {

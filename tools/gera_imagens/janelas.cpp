@@ -7,6 +7,21 @@
 #include <algorithm>
 
 namespace {
+int gEscala = 1;
+} // namespace
+
+void usaEscala(int escala) {
+    gEscala = escala;
+}
+
+QImage novaImagem(QSize logico, QImage::Format formato) {
+    // Painted in logical pixels: the painter scales to the image's pixel ratio.
+    QImage img(logico * gEscala, formato);
+    img.setDevicePixelRatio(gEscala);
+    return img;
+}
+
+namespace {
 
 const QColor kOuro(214, 180, 92);
 const QColor kFeltro1(24, 92, 52), kFeltro2(12, 60, 34);
@@ -21,7 +36,7 @@ QFont fonte(int px, bool negrito = false) {
 // Wood all round, the felt inside, a gold line between; a darker strip on top when the window
 // has a heading.
 QImage fundo(QSize tamanho, int faixa = 0) {
-    QImage img(tamanho, QImage::Format_RGB32);
+    QImage img = novaImagem(tamanho);
     QPainter p(&img);
     p.setRenderHint(QPainter::Antialiasing, true);
     QLinearGradient madeira(0, 0, 0, tamanho.height());

@@ -6,6 +6,11 @@
 #include <QImage>
 #include <array>
 
+// Every picture is drawn in logical pixels at the scale in use: 1, or 2 for the "@2x" set that
+// screens scaled to 150% and more show. A picture of 71 by 96 is then 142 by 192 pixels.
+void usaEscala(int escala);
+QImage novaImagem(QSize logico, QImage::Format formato = QImage::Format_RGB32);
+
 QImage janelaNome();                                     // FrmNome, 420 by 288
 QImage janelaNovoJogador();                              // FrmNovoJogador, 344 by 130
 QImage janelaRecords();                                  // FrmRecords, 642 by 317

@@ -1,6 +1,6 @@
 // Draws every picture of Corvina: 52 faces and 8 backs of 71 by 96 pixels, the 800 by 600
 // table with its toolbar words, the six lit buttons, the 500 by 160 splash, and the surfaces
-// of the small windows.
+// of the small windows; each at 1x and at 2x ("name@2x.png") for scaled screens.
 // Usage: corvina-gera-imagens <assets folder>. Its output is committed under assets/.
 
 #include <QColor>
@@ -108,7 +108,7 @@ void desenhaNaipe(QPainter& p, int naipe, QPointF centro, double tamanho, bool i
 
 // The blank card: paper with rounded corners over the key colour, so the table shows there.
 QImage cartaEmBranco(const QColor& papel = kPapel) {
-    QImage img(kLargura, kAltura, QImage::Format_RGB32);
+    QImage img = novaImagem({kLargura, kAltura});
     img.fill(kMesa);
     QPainter p(&img);
     p.setRenderHint(QPainter::Antialiasing, true);
@@ -349,7 +349,7 @@ void escreveNome(QPainter& p, QRect area, int tamanho) {
 }
 
 QImage mesa() {
-    QImage img(800, 600, QImage::Format_RGB32);
+    QImage img = novaImagem({800, 600});
     QPainter p(&img);
     p.setRenderHint(QPainter::Antialiasing, true);
     QLinearGradient madeira(0, 0, 0, 600);
@@ -397,7 +397,7 @@ QImage mesa() {
 
 QImage botaoAceso(int i) {
     const Botao& b = kBotoes[i - 1];
-    QImage img(b.area.size(), QImage::Format_RGB32);
+    QImage img = novaImagem(b.area.size());
     img.fill(QColor(40, 24, 14));
     QPainter p(&img);
     p.setRenderHint(QPainter::Antialiasing, true);
@@ -406,7 +406,7 @@ QImage botaoAceso(int i) {
 }
 
 QImage splash() {
-    QImage img(500, 160, QImage::Format_RGB32);
+    QImage img = novaImagem({500, 160});
     QPainter p(&img);
     p.setRenderHint(QPainter::Antialiasing, true);
     QRadialGradient g(QPointF(250, 60), 320);
@@ -452,32 +452,41 @@ int main(int argc, char** argv) {
     }
     const QDir pasta(QString::fromLocal8Bit(argv[1]));
     QDir().mkpath(pasta.filePath("cartas"));
+    QDir().mkpath(pasta.filePath("janelas"));
     bool ok = true;
-    for (int n = 1; n <= 4; ++n)
-        for (int v = 1; v <= 13; ++v)
-            ok &= grava(face(n, v),
-                        pasta.filePath(QString("cartas/%1%2.png").arg(kNaipes[n - 1]).arg(v)));
-    for (int t = 1; t <= 8; ++t)
-        ok &= grava(verso(t), pasta.filePath(QString("cartas/tipotC%1.png").arg(t)));
-    ok &= grava(mesa(), pasta.filePath("mesa.png"));
-    for (int i = 1; i <= 6; ++i)
-        ok &= grava(botaoAceso(i), pasta.filePath(QString("btn2_%1.png").arg(i)));
-    ok &= grava(splash(), pasta.filePath("splash.png"));
+    // Each picture at 1x, and at 2x with Qt's "@2x" name beside it.
+    for (const int escala : {1, 2}) {
+        usaEscala(escala);
+        const QString sufixo = escala == 1 ? QString() : QString("@%1x").arg(escala);
+        const auto arquivo = [&](const QString& nome) {
+            return pasta.filePath(nome + sufixo + ".png");
+        };
+        for (int n = 1; n <= 4; ++n)
+            for (int v = 1; v <= 13; ++v)
+                ok &= grava(face(n, v), arquivo(QString("cartas/%1%2").arg(kNaipes[n - 1]).arg(v)));
+        for (int t = 1; t <= 8; ++t)
+            ok &= grava(verso(t), arquivo(QString("cartas/tipotC%1").arg(t)));
+        ok &= grava(mesa(), arquivo("mesa"));
+        for (int i = 1; i <= 6; ++i) ok &= grava(botaoAceso(i), arquivo(QString("btn2_%1").arg(i)));
+        ok &= grava(splash(), arquivo("splash"));
+        std::array<QImage, 8> versos;
+        for (int t = 1; t <= 8; ++t) versos[t - 1] = verso(t);
+        const struct {
+            const char* nome;
+            QImage figura;
+        } janelas[] = {
+            {"frmnome", janelaNome()},         {"frmnovojogador", janelaNovoJogador()},
+            {"frmrecords", janelaRecords()},   {"frmopc", janelaOpcoes()},
+            {"frmtipos", janelaTipos(versos)}, {"frmsimnao", janelaSimNao()},
+            {"frmplacar", janelaPlacar()},     {"frmsobre", janelaSobre(versos[3])},
+            {"frmnivel", janelaNivel()},
+        };
+        for (const auto& j : janelas)
+            ok &= grava(j.figura, arquivo(QString("janelas/%1").arg(j.nome)));
+    }
+    usaEscala(1);
     std::array<QImage, 8> versos;
     for (int t = 1; t <= 8; ++t) versos[t - 1] = verso(t);
-    QDir().mkpath(pasta.filePath("janelas"));
-    const struct {
-        const char* nome;
-        QImage figura;
-    } janelas[] = {
-        {"frmnome", janelaNome()},         {"frmnovojogador", janelaNovoJogador()},
-        {"frmrecords", janelaRecords()},   {"frmopc", janelaOpcoes()},
-        {"frmtipos", janelaTipos(versos)}, {"frmsimnao", janelaSimNao()},
-        {"frmplacar", janelaPlacar()},     {"frmsobre", janelaSobre(versos[3])},
-        {"frmnivel", janelaNivel()},
-    };
-    for (const auto& j : janelas)
-        ok &= grava(j.figura, pasta.filePath(QString("janelas/%1.png").arg(j.nome)));
     // The icon at the sizes the desktop's icon theme asks for; installed apart from the data.
     QDir().mkpath(pasta.filePath("icones"));
     for (const int lado : {16, 24, 32, 48, 64, 128, 256})

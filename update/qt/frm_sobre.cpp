@@ -95,7 +95,8 @@ void FrmSobre::atualizar() {
 
 void FrmSobre::paintEvent(QPaintEvent*) {
     QPainter p(this);
-    p.drawPixmap(0, 0, figuraDaJanela("frmsobre"));
+    p.setRenderHint(QPainter::SmoothPixmapTransform, true);
+    p.drawPixmap(0, 0, figuraDaJanela("frmsobre", devicePixelRatioF()));
 }
 
 } // namespace corvina
