@@ -42,8 +42,9 @@ QImage fundo(QSize tamanho, int faixa = 0) {
     QLinearGradient madeira(0, 0, 0, tamanho.height());
     madeira.setColorAt(0, QColor(84, 54, 32));
     madeira.setColorAt(1, QColor(44, 26, 14));
-    p.fillRect(img.rect(), madeira);
-    const QRectF feltro = QRectF(img.rect()).adjusted(5, 5 + faixa, -5, -5);
+    p.fillRect(QRectF(QPointF(0, 0), img.deviceIndependentSize()), madeira);
+    const QRectF feltro =
+        QRectF(QPointF(0, 0), img.deviceIndependentSize()).adjusted(5, 5 + faixa, -5, -5);
     QLinearGradient verde(feltro.topLeft(), feltro.bottomLeft());
     verde.setColorAt(0, kFeltro1);
     verde.setColorAt(1, kFeltro2);
@@ -52,7 +53,7 @@ QImage fundo(QSize tamanho, int faixa = 0) {
     p.drawRoundedRect(feltro.adjusted(0.5, 0.5, -0.5, -0.5), 5, 5);
     p.setPen(QPen(QColor(0, 0, 0, 120), 1));
     p.setBrush(Qt::NoBrush);
-    p.drawRect(QRectF(img.rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+    p.drawRect(QRectF(QPointF(0, 0), img.deviceIndependentSize()).adjusted(0.5, 0.5, -0.5, -0.5));
     return img;
 }
 

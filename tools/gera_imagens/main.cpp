@@ -355,7 +355,7 @@ QImage mesa() {
     QLinearGradient madeira(0, 0, 0, 600);
     madeira.setColorAt(0, QColor(70, 44, 28));
     madeira.setColorAt(1, QColor(40, 24, 14));
-    p.fillRect(img.rect(), madeira);
+    p.fillRect(QRectF(QPointF(0, 0), img.deviceIndependentSize()), madeira);
     // Title strip with the name, and the about, minimise and close squares at its right.
     QLinearGradient titulo(0, 0, 0, 73);
     titulo.setColorAt(0, QColor(24, 60, 40));
@@ -412,7 +412,7 @@ QImage splash() {
     QRadialGradient g(QPointF(250, 60), 320);
     g.setColorAt(0, QColor(30, 140, 72));
     g.setColorAt(1, QColor(8, 50, 26));
-    p.fillRect(img.rect(), g);
+    p.fillRect(QRectF(QPointF(0, 0), img.deviceIndependentSize()), g);
     p.setPen(QPen(QColor(230, 200, 120), 2));
     p.setBrush(Qt::NoBrush);
     p.drawRect(QRectF(3, 3, 494, 154));
