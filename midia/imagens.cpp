@@ -109,13 +109,34 @@ Imagens::Imagens(const QString& pasta) : pasta_(pasta) {
     nada_ = QPixmap(kCarta);
     nada_.fill(Qt::transparent);
     QStringList faltando;
-    conjuntos_[0] = carregaConjunto(1, faltando);
+    conjuntos_[0] = carregaConjunto(1, false, faltando);
     faltando_ = static_cast<int>(faltando.size());
     avisaFigurasFaltando(faltando);
 }
 
-Imagens::Conjunto Imagens::carregaConjunto(int escala, QStringList& faltando) const {
-    const Conjunto* base = escala > 1 ? &*conjuntos_[0] : nullptr;
+const Imagens::Conjunto& Imagens::conjunto() const {
+    auto& c = conjuntos_[indice(escala_, quatroCores_)];
+    if (!c) {
+        // The usual set of this scale first: what the new one lacks, it lends.
+        if (!conjuntos_[indice(escala_, false)]) {
+            QStringList faltando;
+            conjuntos_[indice(escala_, false)] = carregaConjunto(escala_, false, faltando);
+            avisaFigurasFaltando(faltando);
+        }
+        if (!c) {
+            QStringList faltando;
+            c = carregaConjunto(escala_, quatroCores_, faltando);
+            avisaFigurasFaltando(faltando);
+        }
+    }
+    return *c;
+}
+
+Imagens::Conjunto Imagens::carregaConjunto(int escala, bool quatro, QStringList& faltando) const {
+    const Conjunto* base = quatro       ? &*conjuntos_[indice(escala, false)]
+                           : escala > 1 ? &*conjuntos_[indice(1, false)]
+                                        : nullptr;
+    const QString faces = quatro ? "cartas4" : "cartas";
     Conjunto c;
     const auto carrega = [&](const QString& arquivo, QSize tamanho, const QString& rotulo,
                              const QPixmap* daBase) {
@@ -131,17 +152,28 @@ Imagens::Conjunto Imagens::carregaConjunto(int escala, QStringList& faltando) co
     for (int n = 1; n <= kNaipes; ++n)
         for (int v = 1; v <= kValores; ++v) {
             const Figura f = figuraDaFace(n, v);
-            c.figuras[f] = carrega(QString("cartas/%1%2.png").arg(kSeries[n - 1]).arg(v), kCarta,
+            c.figuras[f] = carrega(QString("%1/%2%3.png").arg(faces, kSeries[n - 1]).arg(v), kCarta,
                                    QString(nomeDoValor(v)) + kSimbolos[n - 1],
                                    base ? &base->figuras[f] : nullptr);
+            c.recortadas[f] = recorta(c.figuras[f]);
         }
+    if (quatro) {
+        // The rest is the usual set's, shared: only the faces differ.
+        for (int t = 1; t <= 8; ++t) {
+            const Figura f = figuraDoVerso(t);
+            c.figuras[f] = base->figuras[f];
+            c.recortadas[f] = base->recortadas[f];
+        }
+        c.botoes = base->botoes;
+        c.mesa = base->mesa;
+        return c;
+    }
     for (int t = 1; t <= 8; ++t) {
         const Figura f = figuraDoVerso(t);
         c.figuras[f] = carrega(QString("cartas/tipotC%1.png").arg(t), kCarta, QString("#%1").arg(t),
                                base ? &base->figuras[f] : nullptr);
+        c.recortadas[f] = recorta(c.figuras[f]);
     }
-    for (std::size_t f = 0; f < c.figuras.size(); ++f)
-        if (!c.figuras[f].isNull()) c.recortadas[f] = recorta(c.figuras[f]);
     for (int i = 0; i < 6; ++i)
         c.botoes[i] = carrega(QString("btn2_%1.png").arg(i + 1), kBotoes[i], {},
                               base ? &base->botoes[i] : nullptr);
@@ -150,13 +182,11 @@ Imagens::Conjunto Imagens::carregaConjunto(int escala, QStringList& faltando) co
 }
 
 void Imagens::paraARazao(qreal razao) const {
-    const int i = escalaDasFiguras(razao) - 1;
-    if (!conjuntos_[i]) {
-        QStringList faltando;
-        conjuntos_[i] = carregaConjunto(i + 1, faltando);
-        avisaFigurasFaltando(faltando);
-    }
-    atual_ = i;
+    escala_ = escalaDasFiguras(razao);
+}
+
+void Imagens::usaQuatroCores(bool sim) const {
+    quatroCores_ = sim;
 }
 
 const QPixmap& Imagens::da(Figura f) const {

@@ -25,7 +25,10 @@ class Imagens {
 
     // Chooses the set for a screen's device pixel ratio; the 2x set is read the first time.
     void paraARazao(qreal razao) const;
-    int escala() const { return atual_ + 1; }
+    int escala() const { return escala_; }
+    // The faces of the four-colour deck (diamonds blue, clubs green), or the usual ones.
+    void usaQuatroCores(bool sim) const;
+    bool quatroCores() const { return quatroCores_; }
 
     // The picture, and the same cut to the card's outline (the key colour made clear).
     const QPixmap& da(Figura f) const;
@@ -41,11 +44,16 @@ class Imagens {
         std::array<QPixmap, 6> botoes;
         QPixmap mesa;
     };
-    // A picture missing at 2x is the 1x one, enlarged; missing at 1x, a stand-in.
-    Conjunto carregaConjunto(int escala, QStringList& faltando) const;
-    const Conjunto& conjunto() const { return *conjuntos_[atual_]; }
-    mutable std::array<std::optional<Conjunto>, 2> conjuntos_;
-    mutable int atual_ = 0;
+    // A picture missing at 2x is the 1x one, enlarged; a four-colour face missing is the usual
+    // face; missing at 1x, a stand-in.
+    Conjunto carregaConjunto(int escala, bool quatroCores, QStringList& faltando) const;
+    static std::size_t indice(int escala, bool quatroCores) {
+        return static_cast<std::size_t>(escala - 1 + (quatroCores ? 2 : 0));
+    }
+    const Conjunto& conjunto() const;
+    mutable std::array<std::optional<Conjunto>, 4> conjuntos_; // by scale, then by deck
+    mutable int escala_ = 1;
+    mutable bool quatroCores_ = false;
     QPixmap nada_;
     int faltando_ = 0;
     QString pasta_;

@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QTimer>
 
+#include "core/ajustes.h"
 #include "core/ativacao.h"
 #include "core/compra.h"
 #include "core/pecas.h"
@@ -25,7 +26,7 @@ const QPoint kPainel(21, 123);
 const QRect kLabel1(33, 563, 517, 16);
 const QRect kStatus(577, 563, 95, 16);
 const QRect kLabel4(685, 563, 97, 17);
-const QRect kTitulo(0, 0, 676, 73);
+const QRect kFaixaDoTitulo(0, 0, 676, 73);
 const QRect kMinimizar(709, 23, 33, 32);
 const QRect kSobre(679, 25, 24, 31);
 const QRect kBotoes[] = {{21, 80, 126, 30},  {154, 80, 121, 30}, {282, 80, 121, 30},
@@ -41,8 +42,9 @@ const QRect kLabel10(114, 311, 20, 15), kLabel11(105, 107, 23, 15);
 // Beside the pile, right of it: the opponent's level and the deal, and the hint's command.
 const QRect kNivel(591, 290, 176, 36);
 const QRect kDica(591, 332, 176, 18);
+const QRect kQuatroCores(591, 352, 200, 18); // to 9 pixels off the window's edge
 const QColor kOuroDaDica(250, 214, 90);
-constexpr int kTeclaNivel = Qt::Key_N, kTeclaDica = Qt::Key_D;
+constexpr int kTeclaNivel = Qt::Key_N, kTeclaDica = Qt::Key_D, kTeclaQuatroCores = Qt::Key_Q;
 // The keys of the play: B the stock (baralho), P the pile, O the sort; Enter or Space discards.
 constexpr int kTeclaBaralho = Qt::Key_B, kTeclaPilha = Qt::Key_P, kTeclaOrdenar = Qt::Key_O;
 const QColor kCorDoFoco(255, 255, 255);
@@ -106,6 +108,14 @@ JanelaMesa::JanelaMesa(Jogo& jogo, VistaQt& vista, const Imagens& imagens)
     instalaMesaAcessivel(); // main installs it first; a window made elsewhere (tests) too
     vista_.tela(this);
     vista_.aoMudar([this] { leitores_.avisa(*this); });
+    imagens_.usaQuatroCores(vista_.leAjuste(chaveBase(), ajuste::kQuatroCores, "False") == "True");
+}
+
+void JanelaMesa::trocaBaralhoDeCores() {
+    const bool sim = !imagens_.quatroCores();
+    imagens_.usaQuatroCores(sim);
+    vista_.gravaAjuste(chaveBase(), ajuste::kQuatroCores, sim ? "True" : "False");
+    update();
 }
 
 std::vector<ItemDaLeitura> JanelaMesa::leitura() const {
@@ -181,6 +191,9 @@ void JanelaMesa::desenhaNivelEDica(QPainter& p) {
     f.setUnderline(true);
     p.setFont(f);
     p.drawText(kDica, Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("Dica (D)"));
+    p.drawText(kQuatroCores, Qt::AlignLeft | Qt::AlignVCenter,
+               QString(imagens_.quatroCores() ? QChar(0x2611) : QChar(0x2610)) +
+                   QStringLiteral(" Baralho de quatro cores (Q)"));
     const std::optional<Dica> d = dicaAtual();
     if (!d) return;
     // The part to play ringed in gold, and the advice on the warning's line when it is free.
@@ -289,8 +302,9 @@ JanelaMesa::Toque JanelaMesa::tocado(QPoint p) const {
     if (kMinimizar.contains(p)) return {Alvo::Minimizar};
     if (kNivel.contains(p)) return {Alvo::Nivel};
     if (kDica.contains(p)) return {Alvo::Dica};
+    if (kQuatroCores.contains(p)) return {Alvo::QuatroCores};
     if (kSobre.contains(p)) return {Alvo::Sobre};
-    if (kTitulo.contains(p)) return {Alvo::Titulo};
+    if (kFaixaDoTitulo.contains(p)) return {Alvo::Titulo};
     return {};
 }
 
@@ -375,6 +389,9 @@ void JanelaMesa::clique(const Toque& t) {
     case Alvo::Dica:
         pedeDica();
         break;
+    case Alvo::QuatroCores:
+        trocaBaralhoDeCores();
+        break;
     default:
         break;
     }
@@ -400,6 +417,7 @@ void JanelaMesa::keyPressEvent(QKeyEvent* e) {
     const bool soALetra = e->modifiers() == Qt::NoModifier;
     if (e->key() == kTeclaNivel && soALetra) return abreNivel();
     if (e->key() == kTeclaDica && soALetra) return pedeDica();
+    if (e->key() == kTeclaQuatroCores && soALetra) return trocaBaralhoDeCores();
     if (const auto t = teclaDaMesa(*e)) {
         teclaNaMesa(jogo_, vista_, *t);
         return update();

@@ -31,6 +31,8 @@ class JanelaMesa : public QWidget {
     // The level window (key N, or a click on the level shown), and the hint (key D, or a click).
     void abreNivel();
     void pedeDica();
+    // The four-colour deck on or off (key Q, or a click on its line), kept in the settings.
+    void trocaBaralhoDeCores();
     // The hint on show, if the table still stands as it was asked on.
     std::optional<Dica> dicaAtual() const;
 
@@ -51,7 +53,18 @@ class JanelaMesa : public QWidget {
     void closeEvent(QCloseEvent* e) override;
 
   private:
-    enum class Alvo { Nada, Sprite, Ordenar, Botao, Titulo, Minimizar, Sobre, Nivel, Dica };
+    enum class Alvo {
+        Nada,
+        Sprite,
+        Ordenar,
+        Botao,
+        Titulo,
+        Minimizar,
+        Sobre,
+        Nivel,
+        Dica,
+        QuatroCores
+    };
     struct Toque {
         Alvo alvo = Alvo::Nada;
         Peca peca{Parte::vazio};

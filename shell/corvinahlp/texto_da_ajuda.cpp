@@ -103,6 +103,8 @@ da CPU diz o que ela pegou e o que descartou.</p>
 <tr><td><b>F10</b></td><td>fechar o Corvina</td></tr>
 <tr><td><b>N</b></td><td>nível do adversário e distribuição justa</td></tr>
 <tr><td><b>D</b></td><td>dica para a sua jogada</td></tr>
+<tr><td><b>Q</b></td><td>baralho de quatro cores: ouros em azul e paus em verde (ou um clique na linha
+do baralho, à direita do descarte)</td></tr>
 </table>
 )");
 }

@@ -308,6 +308,27 @@ TEST(MesaNaTela, CardsAreDrawnFromThePicturesOfTheScreensRatio) {
     }
 }
 
+TEST(MesaNaTela, QTurnsTheFourColourDeckOnAndOffAndTheSettingKeepsIt) {
+    MesaNaTela t;
+    // The ace of diamonds: red in the usual deck, blue in the four-colour one.
+    const auto temCor = [&](QColor cor) {
+        const QImage as = t.imagens.da(figuraDaFace(3, 1)).toImage();
+        for (int y = 0; y < as.height(); ++y)
+            for (int x = 0; x < as.width(); ++x)
+                if (as.pixelColor(x, y) == cor) return true;
+        return false;
+    };
+    const QColor azul(28, 86, 196), vermelho(196, 32, 48);
+    EXPECT_TRUE(temCor(vermelho));
+    t.tecla(Qt::Key_Q);
+    EXPECT_EQ(t.settings.le(chaveBase(), ajuste::kQuatroCores, ""), "True");
+    EXPECT_TRUE(temCor(azul));
+    EXPECT_FALSE(temCor(vermelho));
+    t.tecla(Qt::Key_Q);
+    EXPECT_EQ(t.settings.le(chaveBase(), ajuste::kQuatroCores, ""), "False");
+    EXPECT_TRUE(temCor(vermelho));
+}
+
 TEST(MesaNaTela, TheHintTheCountsAndTheToolbarsLightAnswerTheRealKeysAndMouse) {
     MesaNaTela t;
     for (const bool aberta : {true, false}) {

@@ -1,6 +1,7 @@
 // Draws every picture of Corvina: 52 faces and 8 backs of 71 by 96 pixels, the 800 by 600
 // table with its toolbar words, the six lit buttons, the 500 by 160 splash, and the surfaces
-// of the small windows; each at 1x and at 2x ("name@2x.png") for scaled screens.
+// of the small windows; each at 1x and at 2x ("name@2x.png") for scaled screens. The faces
+// come again in four colours under cartas4/.
 // Usage: corvina-gera-imagens <assets folder>. Its output is committed under assets/.
 
 #include <QColor>
@@ -90,7 +91,15 @@ QPainterPath formaDoNaipe(int naipe) {
         return espadas();
     }
 }
+// The four-colour deck gives diamonds and clubs colours of their own, for players who confuse
+// red and black at a glance: hearts red, diamonds blue, clubs green, spades black.
+const QColor kAzul(28, 86, 196);
+const QColor kVerde(16, 120, 52);
+bool gQuatroCores = false;
+
 QColor corDoNaipe(int naipe) {
+    if (gQuatroCores && naipe == 3) return kAzul;
+    if (gQuatroCores && naipe == 2) return kVerde;
     return naipe == 1 || naipe == 3 ? kVermelho : kPreto;
 }
 
@@ -452,6 +461,7 @@ int main(int argc, char** argv) {
     }
     const QDir pasta(QString::fromLocal8Bit(argv[1]));
     QDir().mkpath(pasta.filePath("cartas"));
+    QDir().mkpath(pasta.filePath("cartas4"));
     QDir().mkpath(pasta.filePath("janelas"));
     bool ok = true;
     // Each picture at 1x, and at 2x with Qt's "@2x" name beside it.
@@ -466,6 +476,13 @@ int main(int argc, char** argv) {
                 ok &= grava(face(n, v), arquivo(QString("cartas/%1%2").arg(kNaipes[n - 1]).arg(v)));
         for (int t = 1; t <= 8; ++t)
             ok &= grava(verso(t), arquivo(QString("cartas/tipotC%1").arg(t)));
+        // The faces of the four-colour deck, beside the others; the backs are the same.
+        gQuatroCores = true;
+        for (int n = 1; n <= 4; ++n)
+            for (int v = 1; v <= 13; ++v)
+                ok &=
+                    grava(face(n, v), arquivo(QString("cartas4/%1%2").arg(kNaipes[n - 1]).arg(v)));
+        gQuatroCores = false;
         ok &= grava(mesa(), arquivo("mesa"));
         for (int i = 1; i <= 6; ++i) ok &= grava(botaoAceso(i), arquivo(QString("btn2_%1").arg(i)));
         ok &= grava(splash(), arquivo("splash"));
