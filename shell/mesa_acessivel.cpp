@@ -39,13 +39,6 @@ JanelaMesa* MesaAcessivel::janela() const {
     return static_cast<JanelaMesa*>(widget());
 }
 
-std::optional<ItemDaLeitura> MesaAcessivel::item(int chave) const {
-    const auto itens = janela()->leitura();
-    for (std::size_t i = 0; i < itens.size(); ++i)
-        if (chaveDaParte(itens[i], static_cast<int>(i)) == chave) return itens[i];
-    return std::nullopt;
-}
-
 ParteAcessivel* MesaAcessivel::parte(int chave) const {
     ParteAcessivel*& p = partes_[static_cast<std::size_t>(chave)];
     if (!p) {

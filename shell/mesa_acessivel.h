@@ -34,8 +34,6 @@ class MesaAcessivel : public QAccessibleWidget {
     QString text(QAccessible::Text t) const override;
 
     JanelaMesa* janela() const;
-    // The part of this key as it reads now, if the table shows it.
-    std::optional<ItemDaLeitura> item(int chave) const;
     ParteAcessivel* parte(int chave) const;
 
   private:
