@@ -5,7 +5,6 @@
 
 #include "apoio/maos.h"
 #include "core/contagem.h"
-#include "core/ordem_das_cartas.h"
 
 namespace corvina {
 namespace {
@@ -92,13 +91,6 @@ INSTANTIATE_TEST_SUITE_P(RapidaELiteral, ContagemTest,
                              return std::string(rapida ? "Rapida_" : "Literal_") +
                                     std::to_string(info.index);
                          });
-
-TEST(ContagemLiteral, TryNineSortsBySuitThenFallingValue) {
-    auto mao = teste::cartas("13/1 13/2 12/1 2/1 3/1 4/1 13/4 1/1 13/3");
-    std::vector<Carta> aux(mao.size());
-    aplicaTentativa(mao, aux, 9);
-    EXPECT_EQ(escreveCartas(mao), "13/1 12/1 4/1 3/1 2/1 1/1 13/2 13/3 13/4");
-}
 
 } // namespace
 } // namespace corvina
