@@ -25,7 +25,6 @@ class Imagens {
 
     // Chooses the set for a screen's device pixel ratio; the 2x set is read the first time.
     void paraARazao(qreal razao) const;
-    int escala() const { return escala_; }
     // The faces of the four-colour deck (diamonds blue, clubs green), or the usual ones.
     void usaQuatroCores(bool sim) const;
     bool quatroCores() const { return quatroCores_; }
