@@ -184,6 +184,8 @@ void AvisoAosLeitores::envia(QAccessibleEvent& e) const {
 }
 
 void AvisoAosLeitores::avisa(JanelaMesa& janela) {
+    // Called at every step of a card's flight: with no tool listening, nothing to read.
+    if (!destino_ && !QAccessible::isActive()) return;
     auto* mesa = dynamic_cast<MesaAcessivel*>(QAccessible::queryAccessibleInterface(&janela));
     if (!mesa) return;
     std::array<std::optional<ItemDaLeitura>, kChavesDasPartes> agora{};
