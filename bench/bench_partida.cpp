@@ -48,7 +48,7 @@ void vezDaMaquina(benchmark::State& estado) {
         jogo.mesa = posicoes[i];
         jogo.modulo.qtdDescarte = 1;
         jogo.historico.limpa(); // each position starts a hand's history of its own
-        macjoga(jogo);
+        ateOFim(macjoga(jogo));
         benchmark::DoNotOptimize(jogo.mesa.discarteValor);
         i = (i + 1) % posicoes.size();
     }

@@ -203,7 +203,7 @@ json vez(const Pedido& p) {
                 {"pile", escreveCarta(topo)}};
     visao.mao.push_back(pega ? topo : cartaNa(m.baralhoValor, m.baralhoNaipe, m.qtdBaralho));
     const int16 descarte = classico.descarte(visao, pega);
-    macjoga(jogo);
+    ateOFim(macjoga(jogo));
     return {{"takes", pega ? "pile" : "stock"},
             {"discard", descarte},
             {"hand", paraJson(maoDaMesa(m, Lado::Mac))},

@@ -31,34 +31,34 @@ void voltaOrdenarAuto(Jogo& jogo) {
     jogo.vista.legendaOrdenar(texto::kAuto);
 }
 
-void costas2_Click(Jogo& jogo) {
+Tarefa<> costas2_Click(Jogo& jogo) {
     VistaMesa& v = jogo.vista;
     Mesa& m = jogo.mesa;
-    if (jogo.maosEmJogo) return;           // the machine is playing: the hands are not the player's
+    if (jogo.maosEmJogo) co_return;        // the machine is playing: the hands are not the player's
     v.habilitaPeca(peca::kCostas2, false); // no second click while this one runs
     v.escondeAviso();
     if (m.qtdJog == kCasaCompra) {
         recusaSegundaCompra(v);
         v.habilitaPeca(peca::kCostas2, true);
-        return;
+        co_return;
     }
     if (jogo.modulo.tocarSom) v.tocaSom(som::kCarta1, false);
     if (m.qtdBaralho == 0) {
         v.caixaMensagem(texto::kAcabouBaralhoJog, kEstiloSimples, "");
         v.habilitaPeca(peca::kCostas2, true);
         novojogo(jogo); // no winner: the score stands
-        return;
+        co_return;
     }
     voltaOrdenarAuto(jogo);
     v.copiaFigura(peca::kDiscartado2, peca::kCostas);
     copiaLugar(v, peca::kDiscartado2, peca::kCostas);
     v.mostraPeca(peca::kDiscartado2, true);
     m.animando = true;
-    voaPara(v, peca::kDiscartado2, peca::cj(kCasaCompra), voo::kCompraDoBaralho);
+    co_await voaPara(v, peca::kDiscartado2, peca::cj(kCasaCompra), voo::kCompraDoBaralho);
     v.mostraPeca(peca::kDiscartado2, false);
     v.copiaFigura(peca::cj(kCasaCompra), peca::kDiscartado2); // back up, for a moment
     v.mostraPeca(peca::cj(kCasaCompra), true);
-    v.espera(pausa::kChegada);
+    co_await v.espera(pausa::kChegada);
 
     m.animando = false;
     m.qtdJog = kCasaCompra;
@@ -70,23 +70,23 @@ void costas2_Click(Jogo& jogo) {
     escreveTrincas(jogo);
 }
 
-void Discartado_Click(Jogo& jogo) {
+Tarefa<> Discartado_Click(Jogo& jogo) {
     VistaMesa& v = jogo.vista;
     Mesa& m = jogo.mesa;
-    if (jogo.maosEmJogo) return;
+    if (jogo.maosEmJogo) co_return;
     v.habilitaPeca(peca::kDiscartado, false);
     v.escondeAviso();
-    if (jogo.modulo.qtdDescarte == 0) return; // stays off until the next Habilita(True)
+    if (jogo.modulo.qtdDescarte == 0) co_return; // stays off until the next Habilita(True)
     if (m.qtdJog == kCasaCompra) {
         recusaSegundaCompra(v);
         v.habilitaPeca(peca::kDiscartado, true);
-        return;
+        co_return;
     }
     voltaOrdenarAuto(jogo);
     if (jogo.modulo.tocarSom) v.tocaSom(som::kCarta1, false);
     tiraDaPilha(jogo);
     m.animando = true;
-    voaPara(v, peca::kDiscartado2, peca::cj(kCasaCompra), voo::kCompraDoDescarte);
+    co_await voaPara(v, peca::kDiscartado2, peca::cj(kCasaCompra), voo::kCompraDoDescarte);
     v.mostraPeca(peca::kDiscartado2, false);
     v.copiaFigura(peca::cj(kCasaCompra), peca::kDiscartado2);
 

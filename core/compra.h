@@ -6,9 +6,9 @@
 namespace corvina {
 
 // A click on the stock (`costas2`).
-void costas2_Click(Jogo& jogo);
+Tarefa<> costas2_Click(Jogo& jogo);
 // A click on the top of the pile (`Discartado`).
-void Discartado_Click(Jogo& jogo);
+Tarefa<> Discartado_Click(Jogo& jogo);
 
 // Puts the sort button back to "Auto", as every draw and discard does.
 void voltaOrdenarAuto(Jogo& jogo);

@@ -18,7 +18,7 @@ namespace {
 // A discard that costs the hand more than this many points sounds the error.
 inline constexpr int kPerdaTolerada = 4;
 
-void voaParaPilha(Jogo& jogo) {
+Tarefa<> voaParaPilha(Jogo& jogo) {
     VistaMesa& v = jogo.vista;
     abreLugarNaPilha(jogo);
     v.copiaFigura(peca::kDiscartado2, peca::kPicmover);
@@ -28,7 +28,7 @@ void voaParaPilha(Jogo& jogo) {
     v.mostraPeca(peca::kPicmover, false);
     v.destaca(0);
     jogo.mesa.animando = true;
-    voaPara(v, peca::kDiscartado2, peca::kDiscartado, voo::kDescarte);
+    co_await voaPara(v, peca::kDiscartado2, peca::kDiscartado, voo::kDescarte);
     v.copiaFigura(peca::kDiscartado, peca::kDiscartado2);
     v.mostraPeca(peca::kDiscartado, true);
     v.aplicaContorno(peca::kDiscartado, kCorDaMesa);
@@ -47,12 +47,12 @@ struct MaosEmJogo {
 };
 } // namespace
 
-Descarte descartaJog(Jogo& jogo, int16 posicao) {
+Tarefa<Descarte> descartaJog(Jogo& jogo, int16 posicao) {
     VistaMesa& v = jogo.vista;
     Mesa& m = jogo.mesa;
     // A discard already under way (its flight lets events in) holds the hands.
     if (jogo.maosEmJogo || m.qtdJog != kCasaCompra || posicao < 1 || posicao > kCasaCompra)
-        return Descarte::Recusado;
+        co_return Descarte::Recusado;
     MaosEmJogo guarda(jogo);
 
     v.Habilita(false);
@@ -61,11 +61,11 @@ Descarte descartaJog(Jogo& jogo, int16 posicao) {
     const int16 antesDescarte = TemQuantosGrupos(m, Lado::Jog, jogo.modulo.soTrincas);
     jogo.modulo.soTrincas = false;
     if (jogo.modulo.tocarSom) v.tocaSom(som::kCarta1Descarte, false);
-    voaParaPilha(jogo);
+    co_await voaParaPilha(jogo);
     m.discarteValor = m.jogValor[posicao];
     m.discarteNaipe = m.jogNaipe[posicao];
     jogo.historico.descarta(Lado::Jog, Carta{m.discarteValor, m.discarteNaipe});
-    v.espera(pausa::kChegada);
+    co_await v.espera(pausa::kChegada);
 
     --m.qtdJog;
     for (int j = posicao; j <= m.qtdJog; ++j) {
@@ -76,6 +76,7 @@ Descarte descartaJog(Jogo& jogo, int16 posicao) {
     const int16 depoisDescarte = TemQuantosGrupos(m, Lado::Jog);
     if (jogo.modulo.tocarSom && depoisDescarte < antesDescarte - kPerdaTolerada) {
         v.processaEventos();
+        co_await v.espera(0); // the row as it is now is on the screen before the sound holds it
         v.tocaSom(som::kErro, true);
     }
     if (depoisDescarte >= kPontosVitoria) {
@@ -83,7 +84,7 @@ Descarte descartaJog(Jogo& jogo, int16 posicao) {
         v.mostraTrincas(texto::kTresTrincas);
         finaliza(jogo, Lado::Jog);
         novojogo(jogo);
-        return Descarte::MaoTerminou;
+        co_return Descarte::MaoTerminou;
     }
     v.mostraTrincas(legendaTrincas(depoisDescarte));
     v.mostraContagens(depoisDescarte, std::nullopt);
@@ -91,19 +92,19 @@ Descarte descartaJog(Jogo& jogo, int16 posicao) {
 
     v.Habilita(false);
     // A spent stock deals a new hand inside the machine's turn; its hand is judged all the same.
-    const bool novaMao = macjoga(jogo) == FimDaVez::AcabouBaralho;
+    const bool novaMao = (co_await macjoga(jogo)) == FimDaVez::AcabouBaralho;
     v.Habilita(true);
     const int16 valorMac = TemQuantosGrupos(m, Lado::Mac);
     v.mostraContagens(std::nullopt, valorMac);
     if (valorMac >= kPontosVitoria) {
         finaliza(jogo, Lado::Mac);
         novojogo(jogo);
-        return Descarte::MaoTerminou;
+        co_return Descarte::MaoTerminou;
     }
     v.ponteiro(peca::kCostas2, Ponteiro::padrao);
     v.ponteiro(peca::kDiscartado, Ponteiro::padrao);
     v.ponteiro(peca::kPicmover, Ponteiro::proibido);
-    return novaMao ? Descarte::MaoTerminou : Descarte::Feito;
+    co_return novaMao ? Descarte::MaoTerminou : Descarte::Feito;
 }
 
 } // namespace corvina

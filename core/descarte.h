@@ -13,6 +13,6 @@ enum class Descarte {
 
 // The card of slot `posicao` (1..10) goes to the pile; then, unless the player has won, the
 // machine plays its turn inside this call and its hand is judged.
-Descarte descartaJog(Jogo& jogo, int16 posicao);
+Tarefa<Descarte> descartaJog(Jogo& jogo, int16 posicao);
 
 } // namespace corvina

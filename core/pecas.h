@@ -39,9 +39,9 @@ inline void copiaLugar(VistaMesa& v, Peca destino, Peca origem) {
     v.poeLugar(destino, v.lugar(origem));
 }
 
-inline void voaPara(VistaMesa& v, Peca sprite, Peca alvo, double fator) {
+inline Tarefa<> voaPara(VistaMesa& v, Peca sprite, Peca alvo, double fator) {
     const Lugar l = v.lugar(alvo);
-    v.voaCarta(sprite, l.left, l.top, fator);
+    return v.voaCarta(sprite, l.left, l.top, fator);
 }
 
 } // namespace corvina

@@ -12,38 +12,57 @@ namespace corvina {
 namespace {
 inline constexpr int kUltimaCartaDoMonte = 1;
 
-// The seat decides with the short counts of its tries; the flag says so while it does.
-int16 escolheDescarte(Jogo& jogo, bool doDescarte) {
+// The seat decides on a copy of what it may see, so that a view may let it think elsewhere; the
+// flag says that its tries are short counts while it does. (The thoughts are named before they
+// are awaited: GCC 12 destroys a lambda made inside a co_await twice.)
+Tarefa<bool> pegaOuCompra(Jogo& jogo) {
+    Nivel& nivel = jogo.nivel;
     jogo.modulo.soTrincas = true;
-    const int16 carta = jogo.nivel.descarte(visaoDe(jogo, Lado::Mac), doDescarte);
+    Pensamento<bool> pensamento(jogo.vista, [&nivel, visao = visaoDe(jogo, Lado::Mac)] {
+        return nivel.pegaDescarte(visao);
+    });
+    const bool pega = co_await pensamento;
     jogo.modulo.soTrincas = false;
-    // A slot outside the hand throws the card that came in, so the turn always ends.
-    return carta >= 1 && carta <= kCasaCompra ? carta : kCasaCompra;
+    co_return pega;
 }
 
-void pegaDoDescarte(Jogo& jogo) {
+Tarefa<int16> escolheDescarte(Jogo& jogo, bool doDescarte) {
+    Nivel& nivel = jogo.nivel;
+    jogo.modulo.soTrincas = true;
+    Pensamento<int16> pensamento(jogo.vista,
+                                 [&nivel, visao = visaoDe(jogo, Lado::Mac), doDescarte] {
+                                     return nivel.descarte(visao, doDescarte);
+                                 });
+    const int16 carta = co_await pensamento;
+    jogo.modulo.soTrincas = false;
+    // A slot outside the hand throws the card that came in, so the turn always ends.
+    co_return carta >= 1 && carta <= kCasaCompra ? carta : kCasaCompra;
+}
+
+Tarefa<> pegaDoDescarte(Jogo& jogo) {
     VistaMesa& v = jogo.vista;
     Mesa& m = jogo.mesa;
     if (jogo.modulo.tocarSom) v.tocaSom(som::kCarta3, false);
     tiraDaPilha(jogo);
 
     m.animando = true;
-    voaPara(v, peca::kDiscartado2, peca::cm(kCasaCompra), voo::kDescarte);
+    co_await voaPara(v, peca::kDiscartado2, peca::cm(kCasaCompra), voo::kDescarte);
     v.copiaFigura(peca::cm(kCasaCompra), peca::kDiscartado2);
     v.mostraPeca(peca::kDiscartado2, false);
     m.animando = false;
     v.mostraPeca(peca::cm(kCasaCompra), true);
-    v.espera(pausa::kChegada);
+    co_await v.espera(pausa::kChegada);
 
     m.qtdMac = kCasaCompra;
     m.macValor[kCasaCompra] = m.discarteValor;
     m.macNaipe[kCasaCompra] = m.discarteNaipe;
     jogo.historico.toma(Lado::Mac, cartaNa(m.macValor, m.macNaipe, kCasaCompra));
     v.apresentacartasdamac(8, 0);
-    macdiscarta(jogo, escolheDescarte(jogo, true));
+    const int16 carta = co_await escolheDescarte(jogo, true);
+    co_await macdiscarta(jogo, carta);
 }
 
-void compraDoMonte(Jogo& jogo) {
+Tarefa<> compraDoMonte(Jogo& jogo) {
     VistaMesa& v = jogo.vista;
     Mesa& m = jogo.mesa;
     if (jogo.modulo.tocarSom) v.tocaSom(som::kCarta3, false);
@@ -52,7 +71,7 @@ void compraDoMonte(Jogo& jogo) {
     v.mostraPeca(peca::kDiscartado2, true);
     if (m.qtdBaralho == kUltimaCartaDoMonte) v.mostraPeca(peca::kCostas, false);
     // The drawn card flies with its back up and stays unseen: no pause, no guard.
-    voaPara(v, peca::kDiscartado2, peca::cm(kCasaCompra), voo::kCompraDoBaralho);
+    co_await voaPara(v, peca::kDiscartado2, peca::cm(kCasaCompra), voo::kCompraDoBaralho);
     v.copiaFigura(peca::cm(kCasaCompra), peca::kDiscartado2);
     v.mostraPeca(peca::kDiscartado2, false);
 
@@ -61,37 +80,35 @@ void compraDoMonte(Jogo& jogo) {
     poeCarta(m.macValor, m.macNaipe, kCasaCompra, comprada);
     --m.qtdBaralho;
     v.apresentacartasdamac(8, 0);
-    macdiscarta(jogo, escolheDescarte(jogo, false));
+    const int16 carta = co_await escolheDescarte(jogo, false);
+    co_await macdiscarta(jogo, carta);
 }
 } // namespace
 
-FimDaVez macjoga(Jogo& jogo) {
+Tarefa<FimDaVez> macjoga(Jogo& jogo) {
     VistaMesa& v = jogo.vista;
     Mesa& m = jogo.mesa;
     v.Habilita(false);
-    jogo.modulo.soTrincas = true; // the tries are short counts; the base is a full one
-    const bool pega = jogo.nivel.pegaDescarte(visaoDe(jogo, Lado::Mac));
-    jogo.modulo.soTrincas = false;
-    if (pega) {
-        pegaDoDescarte(jogo);
-        return FimDaVez::Descartou;
+    if (co_await pegaOuCompra(jogo)) {
+        co_await pegaDoDescarte(jogo);
+        co_return FimDaVez::Descartou;
     }
     if (m.qtdBaralho == 0) {
         v.caixaMensagem(texto::kAcabouBaralhoMac, kEstiloSimples, "");
         v.Habilita(true);
         novojogo(jogo);
-        return FimDaVez::AcabouBaralho;
+        co_return FimDaVez::AcabouBaralho;
     }
-    compraDoMonte(jogo);
-    return FimDaVez::Descartou;
+    co_await compraDoMonte(jogo);
+    co_return FimDaVez::Descartou;
 }
 
-void macdiscarta(Jogo& jogo, int16 carta) {
+Tarefa<> macdiscarta(Jogo& jogo, int16 carta) {
     VistaMesa& v = jogo.vista;
     Mesa& m = jogo.mesa;
     v.Habilita(false);
     v.apresentacartasdamac(carta, carta);
-    v.espera(pausa::kChegada);
+    co_await v.espera(pausa::kChegada);
     if (jogo.modulo.tocarSom) v.tocaSom(som::kCarta3, false);
     abreLugarNaPilha(jogo);
     v.copiaFigura(peca::kDiscartado2, peca::cm(carta));
@@ -100,12 +117,12 @@ void macdiscarta(Jogo& jogo, int16 carta) {
     v.mostraPeca(peca::cm(carta), false);
 
     m.animando = true;
-    voaPara(v, peca::kDiscartado2, peca::kDiscartado, voo::kDescarte);
+    co_await voaPara(v, peca::kDiscartado2, peca::kDiscartado, voo::kDescarte);
     v.copiaFigura(peca::kDiscartado, peca::kDiscartado2);
     v.mostraPeca(peca::kDiscartado, true);
     v.mostraPeca(peca::kDiscartado2, false);
     m.animando = false;
-    v.espera(pausa::kDepoisDoDescarteDaMaquina);
+    co_await v.espera(pausa::kDepoisDoDescarteDaMaquina);
 
     // The hand changes only now that the flight is over.
     m.discarteValor = m.macValor[carta];

@@ -1,12 +1,18 @@
 #pragma once
 // Everything the game needs from the outside: the screen, time, sound and the store.
-// Called on the one thread of the game; every call returns when its work is done.
+// Called on the one thread of the game. A call returns when its work is done, except the waits
+// (a flight, a pause, the machine's thought), which the game awaits: the view may let the
+// window's own loop run meanwhile and resume the game where it stopped.
 
+#include <coroutine>
 #include <cstdint>
+#include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 
 #include "core/carta.h"
+#include "core/tarefa.h"
 
 namespace corvina {
 
@@ -70,6 +76,9 @@ struct Placar {
     bool pisca = false; // Timer1: the names and points blink, a match was won
 };
 
+class Pausa;
+template <class T> class Pensamento;
+
 class VistaMesa {
   public:
     virtual ~VistaMesa() = default;
@@ -81,7 +90,7 @@ class VistaMesa {
     virtual void MostraDiscarts() = 0;
     virtual void Habilita(bool h) = 0;
     virtual void Premover(int16 index) = 0;
-    virtual void voaCarta(Peca sprite, float alvoLeft, float alvoTop, double fator) = 0;
+    virtual Tarefa<> voaCarta(Peca sprite, float alvoLeft, float alvoTop, double fator) = 0;
     virtual void aplicaContorno(Peca sprite, std::uint32_t corChave) = 0;
 
     // Fields of single sprites, as the procedures of the table set them.
@@ -109,14 +118,85 @@ class VistaMesa {
 
     // Sound and time. A sound name starts with a backslash: "\cart1.wav".
     virtual void tocaSom(const std::string& arquivo, bool aguarda) = 0;
-    virtual void espera(int milissegundos) = 0;
+    // A pause the game awaits: co_await vista.espera(100).
+    Pausa espera(int milissegundos);
     virtual void processaEventos() = 0;
+
+    // The waits, as the view keeps them. `adia` returns false when the view keeps no time: the
+    // game goes on at once. Otherwise the view resumes `retomada` once the time has passed.
+    virtual bool adia(int milissegundos, std::coroutine_handle<> retomada) = 0;
+    // `trabalho` is a decision of the machine, on copies of what it may see. A view may run it
+    // elsewhere and resume `retomada` when it is done (true), or run it here (false).
+    virtual bool pensa(const std::function<void()>& trabalho, std::coroutine_handle<> retomada) {
+        (void)retomada;
+        trabalho();
+        return false;
+    }
+    // A wait whose move was dropped (the window closed): `retomada` must not be resumed.
+    virtual void esquece(std::coroutine_handle<> retomada) { (void)retomada; }
 
     // The store: text values under keys.
     virtual std::string leAjuste(const std::string& chave, const std::string& nome,
                                  const std::string& padrao) = 0;
     virtual bool gravaAjuste(const std::string& chave, const std::string& nome,
                              const std::string& valor) = 0;
+};
+
+// The awaitable of a pause.
+class Pausa {
+  public:
+    Pausa(VistaMesa& v, int milissegundos) : v_(v), ms_(milissegundos) {}
+    Pausa(const Pausa&) = delete;
+    Pausa& operator=(const Pausa&) = delete;
+    ~Pausa() {
+        if (h_) v_.esquece(h_);
+    }
+    bool await_ready() const noexcept { return false; }
+    bool await_suspend(std::coroutine_handle<> h) {
+        if (!v_.adia(ms_, h)) return false;
+        h_ = h;
+        return true;
+    }
+    void await_resume() noexcept { h_ = {}; }
+
+  private:
+    VistaMesa& v_;
+    int ms_;
+    std::coroutine_handle<> h_;
+};
+
+inline Pausa VistaMesa::espera(int milissegundos) {
+    return Pausa(*this, milissegundos);
+}
+
+// The awaitable of a decision of the machine. `decide` may run on another thread: it must hold
+// copies of what it reads, or references to what outlives the view.
+template <class T> class Pensamento {
+  public:
+    Pensamento(VistaMesa& v, std::function<T()> decide)
+        : v_(v), resposta_(std::make_shared<std::optional<T>>()),
+          trabalho_([r = resposta_, d = std::move(decide)] { *r = d(); }) {}
+    Pensamento(const Pensamento&) = delete;
+    Pensamento& operator=(const Pensamento&) = delete;
+    ~Pensamento() {
+        if (h_) v_.esquece(h_);
+    }
+    bool await_ready() const noexcept { return false; }
+    bool await_suspend(std::coroutine_handle<> h) {
+        if (!v_.pensa(trabalho_, h)) return false;
+        h_ = h;
+        return true;
+    }
+    T await_resume() {
+        h_ = {};
+        return **resposta_;
+    }
+
+  private:
+    VistaMesa& v_;
+    std::shared_ptr<std::optional<T>> resposta_; // shared with a thought that may outlive this
+    std::function<void()> trabalho_;
+    std::coroutine_handle<> h_;
 };
 
 } // namespace corvina

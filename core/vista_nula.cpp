@@ -91,8 +91,9 @@ void VistaNula::Habilita(bool h) {
 void VistaNula::Premover(int16 index) {
     anota([&] { return "Premover " + std::to_string(index); });
 }
-void VistaNula::voaCarta(Peca sprite, float, float, double fator) {
+Tarefa<> VistaNula::voaCarta(Peca sprite, float, float, double fator) {
     anota([&] { return "voaCarta " + nomeDaPeca(sprite) + " " + num(fator); });
+    co_return;
 }
 void VistaNula::aplicaContorno(Peca sprite, std::uint32_t) {
     anota([&] { return "aplicaContorno " + nomeDaPeca(sprite); });
@@ -156,8 +157,9 @@ void VistaNula::abreJanela(Janela janela) {
 void VistaNula::tocaSom(const std::string& arquivo, bool aguarda) {
     anota([&] { return "tocaSom " + arquivo + (aguarda ? " 1" : " 0"); });
 }
-void VistaNula::espera(int milissegundos) {
+bool VistaNula::adia(int milissegundos, std::coroutine_handle<>) {
     anota([&] { return "espera " + std::to_string(milissegundos); });
+    return false; // no time passes here
 }
 void VistaNula::processaEventos() {
     anota([&] { return "processaEventos"; });

@@ -27,7 +27,7 @@ class VistaNula : public VistaMesa {
     void MostraDiscarts() override;
     void Habilita(bool h) override;
     void Premover(int16 index) override;
-    void voaCarta(Peca sprite, float alvoLeft, float alvoTop, double fator) override;
+    Tarefa<> voaCarta(Peca sprite, float alvoLeft, float alvoTop, double fator) override;
     void aplicaContorno(Peca sprite, std::uint32_t corChave) override;
     void mostraPeca(Peca peca, bool visivel) override;
     void habilitaPeca(Peca peca, bool habilitada) override;
@@ -47,7 +47,7 @@ class VistaNula : public VistaMesa {
     void preparaPlacar(const Placar& placar) override;
     void abreJanela(Janela janela) override;
     void tocaSom(const std::string& arquivo, bool aguarda) override;
-    void espera(int milissegundos) override;
+    bool adia(int milissegundos, std::coroutine_handle<> retomada) override;
     void processaEventos() override;
     std::string leAjuste(const std::string& chave, const std::string& nome,
                          const std::string& padrao) override;

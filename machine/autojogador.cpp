@@ -23,13 +23,13 @@ void jogaPeloJogador(Jogo& jogo, Nivel& nivel) {
     Mesa& m = jogo.mesa;
     if (m.qtdJog != kCartasNaMao) return;
     if (nivel.pegaDescarte(visaoDe(jogo, Lado::Jog))) {
-        Discartado_Click(jogo);
-        descartaJog(jogo, nivel.descarte(visaoDe(jogo, Lado::Jog), true));
+        ateOFim(Discartado_Click(jogo));
+        ateOFim(descartaJog(jogo, nivel.descarte(visaoDe(jogo, Lado::Jog), true)));
         return;
     }
-    costas2_Click(jogo);
+    ateOFim(costas2_Click(jogo));
     if (m.qtdJog != kCasaCompra) return; // the stock was spent: a new hand was dealt
-    descartaJog(jogo, nivel.descarte(visaoDe(jogo, Lado::Jog), false));
+    ateOFim(descartaJog(jogo, nivel.descarte(visaoDe(jogo, Lado::Jog), false)));
 }
 
 void jogaPeloJogador(Jogo& jogo) {

@@ -1,5 +1,5 @@
 #pragma once
-// The table window: paints the scene and hands the mouse and the keys to the table's handlers.
+// The table window: paints the scene and turns the mouse and the keys into the table's commands.
 
 #include <QWidget>
 #include <functional>
@@ -11,13 +11,16 @@
 #include "shell/mesa_acessivel.h"
 #include "shell/vista_qt.h"
 #include "table/comandos.h"
-#include "table/dica.h"
+#include "table/condutor.h"
 
 namespace corvina {
 
 class JanelaMesa : public QWidget {
   public:
     JanelaMesa(Jogo& jogo, VistaQt& vista, const Imagens& imagens);
+    ~JanelaMesa() override;
+    JanelaMesa(const JanelaMesa&) = delete;
+    JanelaMesa& operator=(const JanelaMesa&) = delete;
 
     // What ends the program once the window has closed and the settings are written; by
     // default nothing, so that a test can look at the store afterwards.
@@ -26,15 +29,16 @@ class JanelaMesa : public QWidget {
     // Where a part of the table stands on the window, in pixels (for tests and the painter).
     QRect retanguloDa(Peca peca) const;
 
-    // Who answers the hint; without it the hint does nothing.
-    void usaNivel(NivelDaMesa& nivel) { nivel_ = &nivel; }
+    // A move, whatever sent it; false when the table refused it.
+    bool joga(const Jogada& c);
+    Condutor& condutor() { return condutor_; }
     // The level window (key N, or a click on the level shown), and the hint (key D, or a click).
     void abreNivel();
     void pedeDica();
     // The four-colour deck on or off (key Q, or a click on its line), kept in the settings.
     void trocaBaralhoDeCores();
     // The hint on show, if the table still stands as it was asked on.
-    std::optional<Dica> dicaAtual() const;
+    std::optional<Dica> dicaAtual() const { return condutor_.dica(); }
 
     // The table in words, as accessibility tools read it, and where each part stands.
     std::vector<ItemDaLeitura> leitura() const;
@@ -69,27 +73,25 @@ class JanelaMesa : public QWidget {
         Alvo alvo = Alvo::Nada;
         Peca peca{Parte::vazio};
         int botao = 0;
+        friend bool operator==(const Toque&, const Toque&) = default;
     };
     Toque tocado(QPoint p) const;
     std::optional<Peca> spriteEm(QPoint p) const;
     QPointF dentroDoMover(QPoint p) const; // twips inside Picmover
-    void desenhaTextos(QPainter& p);
-    void desenhaNivelEDica(QPainter& p);
-    void desenhaFoco(QPainter& p);
-    std::vector<int16> assinaturaDaMesa() const;
     void clique(const Toque& t);
     void atende(PedidoDaTecla pedido);
+    // The toolbar's windows and a new match wait for the move under way: refused meanwhile.
+    bool livreParaJanelas();
+    void mudou();
 
     Jogo& jogo_;
     VistaQt& vista_;
     const Imagens& imagens_;
+    Condutor condutor_;
     Toque pressionado_;
     bool arrastandoMover_ = false;
     bool ativada_ = false;
     std::function<void()> encerra_;
-    NivelDaMesa* nivel_ = nullptr;
-    std::optional<Dica> dica_;
-    std::vector<int16> assinaturaDaDica_; // the table the hint was given on
     AvisoAosLeitores leitores_;
 };
 

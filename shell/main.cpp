@@ -35,8 +35,8 @@ struct Programa {
     corvina::MusicaFluidSynth musica;
     corvina::Som som{corvina::pastaDosSons().toStdString(), ondas, musica};
     corvina::AcasoDoRelogio acaso;
-    // Forte thinks on a thread of its own while the window goes on answering.
-    corvina::NivelDaMesa nivel{[] { QApplication::processEvents(); }};
+    // The machine's seat; the view lets it think on a worker while the window goes on.
+    corvina::NivelDaMesa nivel;
     corvina::Jogo jogo{vista, acaso, nivel};
     corvina::JanelasQt janelas;
     corvina::JanelaMesa janela{jogo, vista, imagens};
@@ -47,7 +47,6 @@ struct Programa {
         vista.janelas(&janelas);
         janelas.dono(&janela);
         nivel.segue(jogo.modulo);
-        janela.usaNivel(nivel);
         // The run ends with the window: no hand in progress is kept, nothing waits.
         janela.aoEncerrar([] {
             std::fflush(nullptr);

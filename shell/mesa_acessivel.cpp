@@ -4,6 +4,7 @@
 #include <mutex>
 
 #include "shell/janela_mesa.h"
+#include "table/jogada.h"
 
 namespace corvina {
 
@@ -13,6 +14,33 @@ inline constexpr int kChaveBaralho = kCasaCompra;
 QString qt(const std::string& s) {
     return QString::fromStdString(s);
 }
+
+bool comando(Papel p) {
+    return p == Papel::Carta || p == Papel::Baralho || p == Papel::Descarte ||
+           p == Papel::Ordenar || p == Papel::Dica;
+}
+
+// The actions of each part, with the key that does the same.
+struct Acionamento {
+    enum class Pedido { Jogada, Dica };
+    Papel papel;
+    const char* nome;
+    const char* tecla;
+    Pedido acao = Pedido::Jogada;
+    Acao comando = Acao::Comprar;
+    int passo = 0; // for a move: the slot it goes to, from its own
+};
+const Acionamento kAcionamentos[] = {
+    {Papel::Baralho, "comprar", "B", Acionamento::Pedido::Jogada, Acao::Comprar},
+    {Papel::Descarte, "pegar", "P", Acionamento::Pedido::Jogada, Acao::PegarDescarte},
+    {Papel::Carta, "descartar", "Enter", Acionamento::Pedido::Jogada, Acao::Descartar},
+    {Papel::Carta, "mover para a esquerda", "Shift+Left", Acionamento::Pedido::Jogada, Acao::Mover,
+     -1},
+    {Papel::Carta, "mover para a direita", "Shift+Right", Acionamento::Pedido::Jogada, Acao::Mover,
+     1},
+    {Papel::Ordenar, "ordenar", "O", Acionamento::Pedido::Jogada, Acao::Ordenar},
+    {Papel::Dica, "dica", "D", Acionamento::Pedido::Dica},
+};
 } // namespace
 
 int chaveDaParte(const ItemDaLeitura& item, int indice) {
@@ -29,6 +57,10 @@ int chaveDaParte(const ItemDaLeitura& item, int indice) {
         return kChaveBaralho + 3;
     case Papel::Placar:
         return kChaveBaralho + 4;
+    case Papel::Ordenar:
+        return kChaveBaralho + 5;
+    case Papel::Dica:
+        return kChaveBaralho + 6;
     }
     return kChaveBaralho;
 }
@@ -137,6 +169,8 @@ QAccessible::Role ParteAcessivel::role() const {
         return QAccessible::ListItem;
     case Papel::Baralho:
     case Papel::Descarte:
+    case Papel::Ordenar:
+    case Papel::Dica:
         return QAccessible::Button;
     case Papel::Mensagens:
         return QAccessible::StatusBar;
@@ -160,10 +194,53 @@ QAccessible::State ParteAcessivel::state() const {
         s.focused = i->foco;
         s.selected = i->foco;
     }
-    s.disabled =
-        (i->papel == Papel::Carta || i->papel == Papel::Baralho || i->papel == Papel::Descarte) &&
-        !i->acionavel;
+    s.disabled = comando(i->papel) && !i->acionavel;
     return s;
+}
+
+void* ParteAcessivel::interface_cast(QAccessible::InterfaceType t) {
+    if (t == QAccessible::ActionInterface) return static_cast<QAccessibleActionInterface*>(this);
+    return nullptr;
+}
+
+QStringList ParteAcessivel::actionNames() const {
+    const auto i = item();
+    if (!i || !comando(i->papel)) return {};
+    QStringList nomes;
+    for (const Acionamento& a : kAcionamentos)
+        if (a.papel == i->papel) nomes << QString::fromUtf8(a.nome);
+    // The press of a button is the tools' own word for its first action.
+    if (i->papel != Papel::Carta) nomes << pressAction();
+    return nomes;
+}
+
+QStringList ParteAcessivel::keyBindingsForAction(const QString& acao) const {
+    const auto i = item();
+    if (!i) return {};
+    for (const Acionamento& a : kAcionamentos)
+        if (a.papel == i->papel && (acao == QString::fromUtf8(a.nome) || acao == pressAction()))
+            return {QString::fromUtf8(a.tecla)};
+    return {};
+}
+
+void ParteAcessivel::doAction(const QString& acao) {
+    JanelaMesa* j = janelaViva();
+    const auto i = item();
+    if (!j || !i) return;
+    const auto casa = static_cast<int16>(chave_ + 1); // cards are keyed by slot
+    for (const Acionamento& a : kAcionamentos) {
+        if (a.papel != i->papel) continue;
+        if (acao != QString::fromUtf8(a.nome) &&
+            !(acao == pressAction() && i->papel != Papel::Carta))
+            continue;
+        switch (a.acao) {
+        case Acionamento::Pedido::Dica:
+            return j->pedeDica();
+        case Acionamento::Pedido::Jogada:
+            j->joga({a.comando, casa, static_cast<int16>(casa + a.passo)});
+            return;
+        }
+    }
 }
 
 void instalaMesaAcessivel() {

@@ -19,7 +19,7 @@ class JanelaMesa;
 class ParteAcessivel;
 
 // One key per part, the same through the whole run: cards by slot, then the other parts.
-inline constexpr int kChavesDasPartes = kCasaCompra + 5;
+inline constexpr int kChavesDasPartes = kCasaCompra + 7;
 int chaveDaParte(const ItemDaLeitura& item, int indice);
 
 class MesaAcessivel : public QAccessibleWidget {
@@ -40,7 +40,9 @@ class MesaAcessivel : public QAccessibleWidget {
     mutable std::array<ParteAcessivel*, kChavesDasPartes> partes_{};
 };
 
-class ParteAcessivel : public QAccessibleInterface {
+// A part a person can use with the mouse can be used through the tools' actions too: each
+// action sends the same command as the click.
+class ParteAcessivel : public QAccessibleInterface, public QAccessibleActionInterface {
   public:
     ParteAcessivel(JanelaMesa* janela, int chave);
 
@@ -62,6 +64,11 @@ class ParteAcessivel : public QAccessibleInterface {
     QRect rect() const override;
     QAccessible::Role role() const override;
     QAccessible::State state() const override;
+    void* interface_cast(QAccessible::InterfaceType t) override;
+
+    QStringList actionNames() const override;
+    void doAction(const QString& acao) override;
+    QStringList keyBindingsForAction(const QString& acao) const override;
 
     int chave() const { return chave_; }
 

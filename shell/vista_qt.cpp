@@ -1,8 +1,6 @@
 #include "shell/vista_qt.h"
 
-#include <QCoreApplication>
-#include <QEventLoop>
-#include <QTimer>
+#include <QPointer>
 
 #include "core/ajustes.h"
 #include "players/qt/caixa_do_sistema.h"
@@ -33,16 +31,73 @@ void VistaQt::tocaSom(const std::string& arquivo, bool aguarda) {
     if (som_) som_->tocaSom(arquivo, aguarda);
 }
 
-void VistaQt::espera(int milissegundos) {
-    if (teste_) return;
-    // The table is painted as it stands during the pause; the player's input waits for its end.
-    QEventLoop laco;
-    QTimer::singleShot(milissegundos, &laco, &QEventLoop::quit);
-    laco.exec(QEventLoop::ExcludeUserInputEvents);
+VistaQt::VistaQt(Settings& settings) : settings_(settings) {
+    relogio_.setSingleShot(true);
+    QObject::connect(&relogio_, &QTimer::timeout, [this] {
+        if (auto h = std::exchange(pausada_, {})) h.resume();
+    });
 }
 
+VistaQt::~VistaQt() {
+    terminaPensamentos();
+}
+
+// The window's own loop runs between the steps of a move; nothing is run from inside one.
 void VistaQt::processaEventos() {
-    QCoreApplication::processEvents();
+    if (tela_) tela_->update();
+}
+
+bool VistaQt::adia(int milissegundos, std::coroutine_handle<> retomada) {
+    if (teste_) return false;
+    pausada_ = retomada;
+    relogio_.start(milissegundos);
+    return true;
+}
+
+bool VistaQt::pensa(const std::function<void()>& trabalho, std::coroutine_handle<> retomada) {
+    if (teste_ || !tela_) {
+        trabalho();
+        return false;
+    }
+    // Thoughts whose answers were taken or dropped, and that have ended, are let go.
+    std::erase_if(pensamentos_, [](const Pensamento& p) {
+        return *p.esquecido &&
+               p.trabalho.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
+    });
+    auto esquecido = std::make_shared<bool>(false);
+    QPointer<QWidget> tela(tela_);
+    auto fim = std::async(std::launch::async, [trabalho, tela, esquecido, retomada] {
+        trabalho();
+        // Back on the window's thread: the move goes on there, unless it was dropped meanwhile.
+        QMetaObject::invokeMethod(
+            tela,
+            [esquecido, retomada] {
+                if (!*esquecido) {
+                    *esquecido = true;
+                    retomada.resume();
+                }
+            },
+            Qt::QueuedConnection);
+    });
+    pensamentos_.push_back({retomada, esquecido, std::move(fim)});
+    return true;
+}
+
+void VistaQt::esquece(std::coroutine_handle<> retomada) {
+    if (pausada_ == retomada) {
+        relogio_.stop();
+        pausada_ = {};
+    }
+    for (Pensamento& p : pensamentos_)
+        if (p.retomada == retomada) *p.esquecido = true;
+}
+
+void VistaQt::terminaPensamentos() {
+    for (Pensamento& p : pensamentos_) {
+        *p.esquecido = true;
+        if (p.trabalho.valid()) p.trabalho.wait();
+    }
+    pensamentos_.clear();
 }
 
 std::string VistaQt::leAjuste(const std::string& chave, const std::string& nome,

@@ -2,8 +2,12 @@
 // VistaMesa on the screen: the scene's operations, plus what only the platform does: message
 // boxes, the small windows, time, events and the store.
 
+#include <QTimer>
 #include <QWidget>
 #include <functional>
+#include <future>
+#include <memory>
+#include <vector>
 
 #include "midia/audio/som.h"
 #include "players/qt/settings.h"
@@ -14,7 +18,10 @@ namespace corvina {
 
 class VistaQt : public VistaDeCena {
   public:
-    explicit VistaQt(Settings& settings) : settings_(settings) {}
+    explicit VistaQt(Settings& settings);
+    ~VistaQt() override;
+    VistaQt(const VistaQt&) = delete;
+    VistaQt& operator=(const VistaQt&) = delete;
 
     void tela(QWidget* w) { tela_ = w; }
     // Called after every change of the table, once the window is asked to repaint.
@@ -23,8 +30,8 @@ class VistaQt : public VistaDeCena {
     void som(Som* s) { som_ = s; }
     // The small windows; without them a window closes at once.
     void janelas(JanelasQt* j) { janelas_ = j; }
-    // For tests only: no pauses, and message boxes answer at once (OK, or Não); windows open
-    // through this when it is set.
+    // For tests only: no pauses, the machine thinks in place, and message boxes answer at once
+    // (OK, or Não); windows open through this when it is set.
     std::function<void(Janela)> aoAbrirJanela;
     void modoDeTeste(bool ligado) { teste_ = ligado; }
 
@@ -32,8 +39,12 @@ class VistaQt : public VistaDeCena {
     void preparaPlacar(const Placar& placar) override;
     void abreJanela(Janela janela) override;
     void tocaSom(const std::string& arquivo, bool aguarda) override;
-    void espera(int milissegundos) override;
     void processaEventos() override;
+    bool adia(int milissegundos, std::coroutine_handle<> retomada) override;
+    bool pensa(const std::function<void()>& trabalho, std::coroutine_handle<> retomada) override;
+    void esquece(std::coroutine_handle<> retomada) override;
+    // Waits for the thoughts still running, whose answers nobody takes any more.
+    void terminaPensamentos();
     std::string leAjuste(const std::string& chave, const std::string& nome,
                          const std::string& padrao) override;
     bool gravaAjuste(const std::string& chave, const std::string& nome,
@@ -50,6 +61,16 @@ class VistaQt : public VistaDeCena {
     JanelasQt* janelas_ = nullptr;
     bool teste_ = false;
     Placar placar_;
+    // The one pause under way: the game is one move at a time.
+    QTimer relogio_;
+    std::coroutine_handle<> pausada_;
+    // Thoughts on workers; each answer comes back through the window's loop, unless forgotten.
+    struct Pensamento {
+        std::coroutine_handle<> retomada;
+        std::shared_ptr<bool> esquecido;
+        std::future<void> trabalho;
+    };
+    std::vector<Pensamento> pensamentos_;
 };
 
 } // namespace corvina

@@ -13,11 +13,11 @@ inline constexpr double kDivisorDaAltura = 1.3;
 inline constexpr float kDivisorDaLargura = 5;
 inline constexpr float kLarguraDoPainel = 11295, kAlturaDoPainel = 6405;
 
-void voltaParaMao(Jogo& jogo, VistaDeCena& v, bool recusado) {
+Tarefa<> voltaParaMao(Jogo& jogo, VistaDeCena& v, bool recusado) {
     Mesa& m = jogo.mesa;
     v.Habilita(false);
     m.animando = true;
-    v.voaCarta(peca::kPicmover, m.xOrigem, m.yMao, voo::kVoltaParaMao);
+    co_await v.voaCarta(peca::kPicmover, m.xOrigem, m.yMao, voo::kVoltaParaMao);
     v.apresentacartasdojog(m.cartaAtual, m.cartaAtual);
     v.mostraPeca(peca::cj(m.cartaAtual), true);
     v.mostraPeca(peca::kPicmover, false);
@@ -110,20 +110,20 @@ void Picmover_MouseMove(Jogo& jogo, VistaDeCena& v, int16 button, float x, float
     }
 }
 
-void Picmover_MouseUp(Jogo& jogo, VistaDeCena& v, int16 button) {
-    if (button != kBotaoEsquerdo) return;
+Tarefa<> Picmover_MouseUp(Jogo& jogo, VistaDeCena& v, int16 button) {
+    if (button != kBotaoEsquerdo) co_return;
     Mesa& m = jogo.mesa;
     m.slotSob = 0;
     m.arrastando = 0;
     const Sprite& mover = v.cena()[peca::kPicmover];
     if (ficaNaMao(m.cartaAtual, m.cartaOrigem, m.qtdJog, mover.Top, mover.Height, m.yMao)) {
-        voltaParaMao(jogo, v, false);
+        co_await voltaParaMao(jogo, v, false);
     } else if (m.qtdJog < kCasaCompra) {
         if (jogo.modulo.tocarSom) v.tocaSom(som::kNegado, false);
         v.mostraAviso(texto::kAntesPegue);
-        voltaParaMao(jogo, v, true);
+        co_await voltaParaMao(jogo, v, true);
     } else {
-        descartaJog(jogo, m.cartaAtual);
+        co_await descartaJog(jogo, m.cartaAtual);
     }
 }
 

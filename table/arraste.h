@@ -19,6 +19,8 @@ void cj_MouseMove(Jogo& jogo, VistaDeCena& vista, int16 index);
 // X, Y: the mouse in twips inside the sprite.
 void Picmover_MouseDown(Jogo& jogo, VistaDeCena& vista, int16 button, float x, float y);
 void Picmover_MouseMove(Jogo& jogo, VistaDeCena& vista, int16 button, float x, float y);
-void Picmover_MouseUp(Jogo& jogo, VistaDeCena& vista, int16 button);
+// The drop: the card flies home, or is refused before a draw, or goes to the pile and the
+// machine plays.
+Tarefa<> Picmover_MouseUp(Jogo& jogo, VistaDeCena& vista, int16 button);
 
 } // namespace corvina

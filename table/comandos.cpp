@@ -9,8 +9,6 @@
 namespace corvina {
 
 namespace {
-inline constexpr int kTeclaF2 = 113, kTeclaF3 = 114, kTeclaF4 = 115, kTeclaF5 = 116, kTeclaF6 = 117,
-                     kTeclaF7 = 118, kTeclaF8 = 119, kTeclaF9 = 120, kTeclaF10 = 121;
 inline constexpr const char* kFechar = "Deseja fechar o Corvina?";
 } // namespace
 

@@ -6,7 +6,9 @@
 
 namespace corvina {
 
-inline constexpr int kTeclaF1 = 112;
+inline constexpr int kTeclaF1 = 112, kTeclaF2 = 113, kTeclaF3 = 114, kTeclaF4 = 115, kTeclaF5 = 116,
+                     kTeclaF6 = 117, kTeclaF7 = 118, kTeclaF8 = 119, kTeclaF9 = 120,
+                     kTeclaF10 = 121;
 inline constexpr int kShiftCtrl = 2;
 
 // The table window loads: the counts hidden, the row's height taken from the layout, the

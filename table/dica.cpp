@@ -1,7 +1,6 @@
 #include "table/dica.h"
 
 #include "core/pecas.h"
-#include "core/visao_do_nivel.h"
 
 namespace corvina {
 
@@ -19,22 +18,18 @@ Peca Dica::peca() const {
     return peca::kVazio;
 }
 
-Dica dicaDoJogador(const Jogo& jogo, NivelDaMesa& nivel) {
-    const Mesa& m = jogo.mesa;
-    if (jogo.maosEmJogo || m.animando) return {};
+Dica dicaDaVisao(const VisaoDoNivel& v, bool doDescarte, Forte& forte) {
     Dica d;
-    if (m.qtdJog == kCartasNaMao) {
-        const VisaoDoNivel v = visaoDe(jogo, Lado::Jog);
-        if (v.topo && nivel.fortePegaDescarte(v)) {
+    if (v.mao.size() == kCartasNaMao) {
+        if (v.topo && forte.pegaDescarte(v)) {
             d.tipo = Dica::Tipo::Descarte;
             d.texto = "Dica: pegue " + nomeDaCartaComArtigo(*v.topo) + " do descarte";
         } else {
             d.tipo = Dica::Tipo::Baralho;
             d.texto = "Dica: pegue uma carta do baralho";
         }
-    } else if (m.qtdJog == kCasaCompra) {
-        const VisaoDoNivel v = visaoDe(jogo, Lado::Jog);
-        d.casa = nivel.forteDescarta(v, jogo.historico.topoTomado);
+    } else if (v.mao.size() == kCasaCompra) {
+        d.casa = forte.descarte(v, doDescarte);
         if (d.casa < 1 || d.casa > kCasaCompra) return {};
         d.tipo = Dica::Tipo::Carta;
         d.texto = "Dica: descarte " + nomeDaCartaComArtigo(v.mao[d.casa - 1]);

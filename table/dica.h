@@ -4,7 +4,8 @@
 #include <string>
 
 #include "core/jogo.h"
-#include "machine/nivel_da_mesa.h"
+#include "core/visao_do_nivel.h"
+#include "machine/forte.h"
 
 namespace corvina {
 
@@ -17,7 +18,8 @@ struct Dica {
     Peca peca() const;
 };
 
-// Nothing while the player can't move (the machine's turn, a flight, no hand dealt).
-Dica dicaDoJogador(const Jogo& jogo, NivelDaMesa& nivel);
+// Forte's choice on the player's view: nine cards, where to draw; ten, what to throw
+// (`doDescarte`: the tenth came from the pile). Reads only the copy it is given.
+Dica dicaDaVisao(const VisaoDoNivel& visao, bool doDescarte, Forte& forte);
 
 } // namespace corvina

@@ -66,7 +66,8 @@ std::string ultimaJogadaDaMaquina(const Historico& h) {
     return lance + " e descartou " + nomeDaCartaComArtigo(h.descartes[descarte]) + ".";
 }
 
-std::vector<ItemDaLeitura> leituraDaMesa(const Jogo& jogo, const Cena& cena) {
+std::vector<ItemDaLeitura> leituraDaMesa(const Jogo& jogo, const Cena& cena,
+                                         const std::optional<Dica>& dica, bool livre) {
     std::vector<ItemDaLeitura> itens;
     const Mesa& m = jogo.mesa;
     for (int i = 1; i <= m.qtdJog && i <= kCasaCompra; ++i) {
@@ -76,14 +77,14 @@ std::vector<ItemDaLeitura> leituraDaMesa(const Jogo& jogo, const Cena& cena) {
                          "carta " + std::to_string(i),
                          {p},
                          cena.foco == i,
-                         acionavel(cena, p)});
+                         livre && acionavel(cena, p)});
     }
     itens.push_back({Papel::Baralho,
                      "Baralho",
                      m.qtdBaralho > 0 ? cartas(m.qtdBaralho) : "vazio",
                      {peca::kCostas2},
                      false,
-                     acionavel(cena, peca::kCostas2)});
+                     livre && acionavel(cena, peca::kCostas2)});
 
     const Sprite& topo = cena[peca::kDiscartado];
     const auto c = topo.Visible ? cartaDaFigura(topo.Picture) : std::nullopt;
@@ -92,7 +93,7 @@ std::vector<ItemDaLeitura> leituraDaMesa(const Jogo& jogo, const Cena& cena) {
                      c ? nomeDaCarta(*c) : "vazio",
                      {peca::kDiscartado},
                      false,
-                     c && acionavel(cena, peca::kDiscartado)});
+                     livre && c && acionavel(cena, peca::kDiscartado)});
     itens.push_back(maoDaMaquina(jogo, cena));
 
     // The line of messages carries the machine's last move, so that it is heard after its turn;
@@ -115,6 +116,16 @@ std::vector<ItemDaLeitura> leituraDaMesa(const Jogo& jogo, const Cena& cena) {
                      {peca::kPlacar1, peca::kPlacar2},
                      false,
                      false});
+
+    // The two commands painted as words: the sort button, and the hint with its advice.
+    if (cena[peca::kLabel4].Visible)
+        itens.push_back({Papel::Ordenar,
+                         t.label4,
+                         "",
+                         {peca::kLabel4},
+                         false,
+                         livre && cena[peca::kLabel4].Enabled});
+    itens.push_back({Papel::Dica, "Dica", dica ? dica->texto : "", {}, false, livre});
     return itens;
 }
 

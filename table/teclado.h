@@ -1,10 +1,11 @@
 #pragma once
-// The whole play from the keyboard: a focus that walks the player's row, the two draws, the
-// discard of the card in focus, and moving that card along the row. Each key does what the
-// mouse does on the same part, under the same conditions.
+// The whole play from the keyboard: a focus that walks the player's row, and the keys that turn
+// into the same commands as the mouse's clicks on the same parts.
 
-#include "core/jogo.h"
-#include "table/vista_de_cena.h"
+#include <optional>
+
+#include "table/condutor.h"
+#include "table/jogada.h"
 
 namespace corvina {
 
@@ -13,7 +14,7 @@ enum class Tecla {
     Direita,        // one card right (from none: the first)
     Primeira,       // Home
     Ultima,         // End
-    CartaAEsquerda, // Shift+Left: the card in focus trades places with its left neighbour
+    CartaAEsquerda, // Shift+Left: the card in focus one place left
     CartaADireita,  // Shift+Right
     Baralho,        // B: draw from the stock
     Pilha,          // P: take the top of the pile
@@ -22,13 +23,12 @@ enum class Tecla {
     Solta,          // Escape: no card in focus
 };
 
+// The command a key sends, with the focus where it stands; none for the keys that only move it.
+std::optional<Jogada> jogadaDaTecla(Tecla tecla, int16 foco);
+
+// The key on the table: the focus moves, or its command goes to the conductor.
+void teclaNaMesa(Condutor& condutor, Jogo& jogo, VistaDeCena& vista, Tecla tecla);
 // The focus set by a digit: 1..9 the slot, 0 the tenth.
 void focaCasa(Jogo& jogo, VistaDeCena& vista, int16 casa);
-
-// True when the key did something on the table.
-bool teclaNaMesa(Jogo& jogo, VistaDeCena& vista, Tecla tecla);
-
-// The focus kept within the row as the hand grows and shrinks; none while the hand is empty.
-void ajustaFoco(const Jogo& jogo, VistaDeCena& vista);
 
 } // namespace corvina

@@ -88,22 +88,18 @@ void VistaDeCena::Premover(int16 index) {
     mudou();
 }
 
-void VistaDeCena::voaCarta(Peca sprite, float alvoLeft, float alvoTop, double fator) {
+Tarefa<> VistaDeCena::voaCarta(Peca sprite, float alvoLeft, float alvoTop, double fator) {
     const double d = jogo_->modulo.velocidade * fator;
     const int passos = static_cast<int>(std::floor(d));
-    if (passos <= 0) return; // no steps: the caller hands the picture on where it stands
+    if (passos <= 0) co_return; // no steps: the caller hands the picture on where it stands
     Sprite& s = cena_[sprite];
     const auto passoX = static_cast<float>(std::floor((s.Left - alvoLeft) / d));
     const auto passoY = static_cast<float>(std::floor((s.Top - alvoTop) / d));
-    const bool voltaParaMao = sprite == Peca{Parte::Picmover};
     for (int i = 0; i < passos; ++i) {
-        if (voltaParaMao) processaEventos();
         s.Left -= passoX;
         s.Top -= passoY;
         mudou();
-        processaEventos();
-        espera(kPassoDoVoo);
-        processaEventos();
+        co_await espera(kPassoDoVoo); // the window paints the step meanwhile
     }
 }
 

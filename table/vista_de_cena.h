@@ -20,7 +20,7 @@ class VistaDeCena : public VistaMesa {
     void MostraDiscarts() override;
     void Habilita(bool h) override;
     void Premover(int16 index) override;
-    void voaCarta(Peca sprite, float alvoLeft, float alvoTop, double fator) override;
+    Tarefa<> voaCarta(Peca sprite, float alvoLeft, float alvoTop, double fator) override;
     void aplicaContorno(Peca sprite, std::uint32_t corChave) override;
     void mostraPeca(Peca peca, bool visivel) override;
     void habilitaPeca(Peca peca, bool habilitada) override;

@@ -28,7 +28,10 @@ class VistaDeCenaQuieta : public VistaDeCena {
     std::function<void(Janela)> aoAbrirJanela = [](Janela) {};
     void abreJanela(Janela j) override { aoAbrirJanela(j); }
     void tocaSom(const std::string& arquivo, bool) override { sons.push_back(arquivo); }
-    void espera(int) override { ++esperas; }
+    bool adia(int, std::coroutine_handle<>) override {
+        ++esperas;
+        return false;
+    }
     void processaEventos() override {}
     std::string leAjuste(const std::string& chave, const std::string& nome,
                          const std::string& padrao) override {

@@ -29,7 +29,7 @@ TEST(CompraDoBaralho, TakesTheHighEndOfTheStockToSlotTen) {
     JogoDeTeste t;
     t.arma(kJog, kMac, "9/4", "1/3 2/3 13/1");
     t.jogo.mesa.ordemAuto = 3;
-    costas2_Click(t.jogo);
+    ateOFim(costas2_Click(t.jogo));
     EXPECT_EQ(t.jogo.mesa.qtdJog, 10);
     EXPECT_EQ(textoDaMao(t.jogo.mesa, Lado::Jog), std::string(kJog) + " 13/1");
     EXPECT_EQ(t.jogo.mesa.qtdBaralho, 2);
@@ -45,7 +45,7 @@ TEST(CompraDoBaralho, SecondDrawIsRefusedAndChangesNothing) {
     JogoDeTeste t;
     t.arma(std::string(kJog) + " 13/1", kMac, "9/4", "1/3 2/3");
     t.jogo.modulo.tocarSom = true;
-    costas2_Click(t.jogo);
+    ateOFim(costas2_Click(t.jogo));
     EXPECT_TRUE(t.chamou(kRecusa));
     EXPECT_EQ(t.jogo.mesa.qtdBaralho, 2);
     EXPECT_EQ(t.jogo.mesa.qtdJog, 10);
@@ -58,7 +58,7 @@ TEST(CompraDoBaralho, EmptyStockSoundsThenEndsTheHandWithNoPoint) {
     t.arma(kJog, kMac, "9/4", "");
     t.jogo.modulo.tocarSom = true;
     t.jogo.modulo.pontosMac = 2;
-    costas2_Click(t.jogo);
+    ateOFim(costas2_Click(t.jogo));
     const long som = t.ordem("tocaSom \\cart1.wav 0");
     const long caixa = t.ordem("caixaMensagem Acabou o Baralho.|0|");
     ASSERT_GE(som, 0);
@@ -72,7 +72,7 @@ TEST(CompraDoDescarte, EmptyPileDoesNothingButSwitchItselfOff) {
     JogoDeTeste t;
     t.arma(kJog, kMac, "", "1/3");
     t.jogo.modulo.qtdDescarte = 0;
-    Discartado_Click(t.jogo);
+    ateOFim(Discartado_Click(t.jogo));
     EXPECT_EQ(t.vista.chamadas,
               (std::vector<std::string>{"habilitaPeca Discartado 0", "escondeAviso"}));
     EXPECT_EQ(t.jogo.mesa.qtdJog, 9);
@@ -82,7 +82,7 @@ TEST(CompraDoDescarte, TakesTheTopAndCapsThePileAtFour) {
     JogoDeTeste t;
     t.arma(kJog, kMac, "9/4", "1/3");
     t.jogo.modulo.qtdDescarte = 7;
-    Discartado_Click(t.jogo);
+    ateOFim(Discartado_Click(t.jogo));
     EXPECT_EQ(t.jogo.modulo.qtdDescarte, 4);
     EXPECT_EQ(textoDaMao(t.jogo.mesa, Lado::Jog), std::string(kJog) + " 9/4");
     EXPECT_EQ(t.jogo.mesa.qtdBaralho, 1);
@@ -93,7 +93,7 @@ TEST(CompraDoDescarte, TakesTheTopAndCapsThePileAtFour) {
 TEST(CompraDoDescarte, WithTenCardsIsRefused) {
     JogoDeTeste t;
     t.arma(std::string(kJog) + " 13/1", kMac, "9/4", "1/3");
-    Discartado_Click(t.jogo);
+    ateOFim(Discartado_Click(t.jogo));
     EXPECT_TRUE(t.chamou(kRecusa));
     EXPECT_EQ(t.jogo.modulo.qtdDescarte, 1);
     EXPECT_EQ(t.vista.chamadas.back(), "habilitaPeca Discartado 1");
@@ -102,10 +102,10 @@ TEST(CompraDoDescarte, WithTenCardsIsRefused) {
 TEST(Descarte, RefusedWithoutTenCardsOrOutsideTheHand) {
     JogoDeTeste t;
     t.arma(kJog, kMac, "9/4", "1/3");
-    EXPECT_EQ(descartaJog(t.jogo, 3), Descarte::Recusado);
+    EXPECT_EQ(ateOFim(descartaJog(t.jogo, 3)), Descarte::Recusado);
     t.arma(std::string(kJog) + " 13/1", kMac, "9/4", "1/3");
-    EXPECT_EQ(descartaJog(t.jogo, 0), Descarte::Recusado);
-    EXPECT_EQ(descartaJog(t.jogo, 11), Descarte::Recusado);
+    EXPECT_EQ(ateOFim(descartaJog(t.jogo, 0)), Descarte::Recusado);
+    EXPECT_EQ(ateOFim(descartaJog(t.jogo, 11)), Descarte::Recusado);
     EXPECT_TRUE(t.vista.chamadas.empty());
 }
 
@@ -116,13 +116,13 @@ TEST(Descarte, NothingReachesTheHandsWhileADiscardIsUnderWay) {
     int compras = 0;
     t.vista.aCadaChamada = [&] {
         if (t.vista.chamadas.empty() || t.vista.chamadas.back() != "destaca 0") return;
-        dentro.push_back(descartaJog(t.jogo, 2)); // as if a click got in during the flight
+        dentro.push_back(ateOFim(descartaJog(t.jogo, 2))); // as if a click got in during the flight
         const int16 monte = t.jogo.mesa.qtdBaralho;
-        costas2_Click(t.jogo);
-        Discartado_Click(t.jogo);
+        ateOFim(costas2_Click(t.jogo));
+        ateOFim(Discartado_Click(t.jogo));
         compras += t.jogo.mesa.qtdBaralho != monte;
     };
-    EXPECT_EQ(descartaJog(t.jogo, 1), Descarte::Feito);
+    EXPECT_EQ(ateOFim(descartaJog(t.jogo, 1)), Descarte::Feito);
     EXPECT_EQ(dentro, std::vector<Descarte>{Descarte::Recusado});
     EXPECT_EQ(compras, 0);
     EXPECT_EQ(t.jogo.mesa.qtdJog, 9);
@@ -132,7 +132,7 @@ TEST(Descarte, ClosesTheGapThenTheMachinePlays) {
     JogoDeTeste t;
     t.arma(std::string(kJog) + " 13/1", kMac, "9/4", "1/3 8/3");
     t.jogo.modulo.qtdDescarte = 1;
-    EXPECT_EQ(descartaJog(t.jogo, 1), Descarte::Feito);
+    EXPECT_EQ(ateOFim(descartaJog(t.jogo, 1)), Descarte::Feito);
     // 2/2 went to the pile; the machine took it beside its 3/2 and threw its 1/1
     EXPECT_EQ(textoDaMao(t.jogo.mesa, Lado::Jog), "4/3 6/4 8/1 10/2 12/3 1/4 3/1 5/2 13/1");
     EXPECT_EQ(textoDaMao(t.jogo.mesa, Lado::Mac), "3/2 5/3 7/4 9/1 11/2 13/3 2/4 6/1 2/2");
@@ -160,7 +160,7 @@ TEST_P(PerdaNoDescarteTest, SoundsTheErrorOnlyBeyondFourPoints) {
     JogoDeTeste t;
     t.arma(GetParam().dez, kMac, "9/4", "1/3 8/3");
     t.jogo.modulo.tocarSom = true;
-    descartaJog(t.jogo, GetParam().posicao);
+    ateOFim(descartaJog(t.jogo, GetParam().posicao));
     EXPECT_EQ(t.chamou("tocaSom \\erro.wav 1"), GetParam().erro);
 }
 
@@ -175,7 +175,7 @@ TEST(Descarte, SixtyWinsBeforeTheMachinePlays) {
     // The machine's hand counts 60 too, but the player's hand is judged first.
     t.arma("7/1 7/2 7/3 4/2 5/2 6/2 12/4 13/4 1/4 9/3", "8/1 8/2 8/3 1/3 2/3 3/3 10/4 11/4 12/4",
            "9/4", "1/3 8/3");
-    EXPECT_EQ(descartaJog(t.jogo, 10), Descarte::MaoTerminou);
+    EXPECT_EQ(ateOFim(descartaJog(t.jogo, 10)), Descarte::MaoTerminou);
     EXPECT_EQ(t.jogo.modulo.pontosJog, 1);
     EXPECT_EQ(t.jogo.modulo.pontosMac, 0);
     EXPECT_FALSE(t.chamou("mostraPrompt Aguarde a maquina jogar"));
@@ -188,7 +188,7 @@ TEST(Descarte, MachineWinsAfterItsTurn) {
     t.arma(std::string(kJog) + " 13/1", "4/1 4/2 4/3 8/1 8/2 8/3 11/4 12/4 6/2", "9/4", "1/3");
     t.jogo.mesa.jogValor[1] = 13; // the player throws the 13 of spades the machine wants
     t.jogo.mesa.jogNaipe[1] = 4;
-    EXPECT_EQ(descartaJog(t.jogo, 1), Descarte::MaoTerminou);
+    EXPECT_EQ(ateOFim(descartaJog(t.jogo, 1)), Descarte::MaoTerminou);
     EXPECT_EQ(t.jogo.modulo.pontosMac, 1);
     EXPECT_TRUE(t.chamou("preparaPlacar Vencedor desta mão:  CPU|0|1|0"));
     EXPECT_TRUE(t.chamou("mostraContagens - 60"));
@@ -197,7 +197,7 @@ TEST(Descarte, MachineWinsAfterItsTurn) {
 TEST(Descarte, MachineWinsWithTheLastCardOfTheStock) {
     JogoDeTeste t;
     t.arma(std::string(kJog) + " 13/1", "4/1 4/2 4/3 8/1 8/2 8/3 11/4 12/4 6/2", "9/4", "13/4");
-    EXPECT_EQ(descartaJog(t.jogo, 1), Descarte::MaoTerminou);
+    EXPECT_EQ(ateOFim(descartaJog(t.jogo, 1)), Descarte::MaoTerminou);
     EXPECT_TRUE(t.chamou("mostraPeca costas 0")) << "the last card left the stock";
     EXPECT_FALSE(t.chamou("caixaMensagem Acabou o Baralho|0|")) << "a win, not a spent stock";
     EXPECT_EQ(t.jogo.modulo.pontosMac, 1);

@@ -31,7 +31,7 @@ TEST_P(VezDaMaquinaTest, TakesAndThrowsByTheCount) {
     JogoDeTeste t;
     t.arma(kJogador, c.mao, c.topo, c.monte);
     const int16 monteAntes = t.jogo.mesa.qtdBaralho;
-    EXPECT_EQ(macjoga(t.jogo), FimDaVez::Descartou);
+    EXPECT_EQ(ateOFim(macjoga(t.jogo)), FimDaVez::Descartou);
     EXPECT_EQ(t.jogo.mesa.qtdBaralho, c.pegaDescarte ? monteAntes : monteAntes - 1);
     EXPECT_TRUE(t.chamou("apresentacartasdamac " + std::to_string(c.descarte) + " " +
                          std::to_string(c.descarte)));
@@ -95,7 +95,7 @@ TEST(VezDaMaquina, SpentStockEndsTheHandWithNoPoint) {
     JogoDeTeste t;
     t.arma(kJogador, kMaoSolta, "10/4", "");
     t.jogo.modulo.pontosJog = 2;
-    EXPECT_EQ(macjoga(t.jogo), FimDaVez::AcabouBaralho);
+    EXPECT_EQ(ateOFim(macjoga(t.jogo)), FimDaVez::AcabouBaralho);
     EXPECT_TRUE(t.chamou("caixaMensagem Acabou o Baralho|0|"));
     EXPECT_LT(t.ordem("caixaMensagem Acabou o Baralho|0|"), t.ordem("Habilita 1"));
     EXPECT_EQ(t.jogo.mesa.qtdBaralho, kCartasNoMonte) << "a new hand was dealt";
@@ -108,7 +108,7 @@ TEST(VezDaMaquina, PileTakeLeavesTheCardTakenInTheHand) {
     t.arma(kJogador, kMaoSolta, "1/2", "8/3");
     t.jogo.modulo.qtdDescarte = 7;
     t.jogo.modulo.tocarSom = true;
-    macjoga(t.jogo);
+    ateOFim(macjoga(t.jogo));
     // taken: 7 - 1 = 6, capped at 4; then its discard: 5
     EXPECT_EQ(t.jogo.modulo.qtdDescarte, 5);
     EXPECT_EQ(t.vista.chamadasDe("tocaSom").size(), 2u) << "one for the take, one for the throw";
@@ -118,7 +118,7 @@ TEST(VezDaMaquina, PileTakeLeavesTheCardTakenInTheHand) {
 TEST(VezDaMaquina, LastCardOfTheStockHidesTheStock) {
     JogoDeTeste t;
     t.arma(kJogador, kMaoSolta, "10/4", "8/3");
-    macjoga(t.jogo);
+    ateOFim(macjoga(t.jogo));
     EXPECT_TRUE(t.chamou("mostraPeca costas 0"));
     EXPECT_EQ(t.jogo.mesa.qtdBaralho, 0);
     EXPECT_TRUE(t.chamou("voaCarta discartado2 2.5"));
@@ -128,7 +128,7 @@ TEST(VezDaMaquina, WithoutSoundPlaysNone) {
     JogoDeTeste t;
     t.arma(kJogador, kMaoSolta, "1/2", "8/3");
     t.jogo.modulo.tocarSom = false;
-    macjoga(t.jogo);
+    ateOFim(macjoga(t.jogo));
     EXPECT_TRUE(t.vista.chamadasDe("tocaSom").empty());
 }
 
@@ -143,7 +143,7 @@ class MacdiscartaTest : public testing::TestWithParam<CasoDescarte> {};
 TEST_P(MacdiscartaTest, ClosesTheGapAndSetsTheTop) {
     JogoDeTeste t;
     t.arma(kJogador, "1/1 3/2 5/3 7/4 9/1 11/2 13/3 2/4 6/1 1/2");
-    macdiscarta(t.jogo, GetParam().carta);
+    ateOFim(macdiscarta(t.jogo, GetParam().carta));
     EXPECT_EQ(textoDaMao(t.jogo.mesa, Lado::Mac), GetParam().maoDepois);
     EXPECT_EQ(t.topo(), GetParam().topo);
     EXPECT_EQ(t.jogo.modulo.qtdDescarte, 1) << "no cap at a discard";

@@ -134,13 +134,11 @@ TEST(Forte, TakesThePileWhenItFinishesAndLeavesItWhenItHelpsNothing) {
     EXPECT_EQ(f.descarte(visao("7/1 7/2 7/3 1/4 2/4 3/4 5/3 6/3 4/3 13/2", "", ""), false), 10);
 }
 
-// The table's seat plays the level chosen at the moment of each decision, Forte on a thread of
-// its own while the window's events run.
+// The table's seat plays the level chosen at the moment of each decision.
 TEST(NivelDaMesa, PlaysTheLevelChosenAtEachDecision) {
     const VisaoDoNivel v = visao("7/1 7/2 7/3 1/4 2/4 3/4 5/3 6/3 11/1 1/1", "", "");
     Module1 m;
-    int eventos = 0;
-    NivelDaMesa seat([&] { ++eventos; });
+    NivelDaMesa seat;
     seat.segue(m);
     Classico c;
     Esperto e;

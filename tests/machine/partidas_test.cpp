@@ -113,11 +113,11 @@ void confereEntreVezes(const Jogo& jogo, const VistaVigia& vista) {
 // Random draws and random discards: every path of the player's turn, good and bad.
 void jogaAoAcaso(Jogo& jogo, std::mt19937& g) {
     if (jogo.modulo.qtdDescarte > 0 && g() % 2 == 0)
-        Discartado_Click(jogo);
+        ateOFim(Discartado_Click(jogo));
     else
-        costas2_Click(jogo);
+        ateOFim(costas2_Click(jogo));
     if (jogo.mesa.qtdJog != kCasaCompra) return; // the stock was spent
-    descartaJog(jogo, static_cast<int16>(g() % kCasaCompra + 1));
+    ateOFim(descartaJog(jogo, static_cast<int16>(g() % kCasaCompra + 1)));
 }
 
 enum class Maquina { Classico, Esperto, Forte };

@@ -36,7 +36,6 @@ struct MesaNaTela {
 
     MesaNaTela() {
         nivel.segue(jogo.modulo);
-        janela.usaNivel(nivel);
         vista.liga(jogo);
         vista.modoDeTeste(true);
         // The choice of player as the last one; the other windows close at once.
@@ -207,7 +206,7 @@ TEST(MesaNaTela, AScreenReaderReadsTheTableAndHearsItsChanges) {
     QAccessibleInterface* mesa = QAccessible::queryAccessibleInterface(&t.janela);
     ASSERT_NE(mesa, nullptr);
     EXPECT_EQ(mesa->text(QAccessible::Name), "Mesa do Corvina");
-    ASSERT_EQ(mesa->childCount(), 9 + 5);
+    ASSERT_EQ(mesa->childCount(), 9 + 7);
 
     const auto parte = [&](int i) { return mesa->child(i); };
     const auto nome = [&](int i) { return parte(i)->text(QAccessible::Name).toStdString(); };
@@ -249,7 +248,7 @@ TEST(MesaNaTela, AScreenReaderReadsTheTableAndHearsItsChanges) {
     ouvidos.clear();
     t.tecla(Qt::Key_B);
     ASSERT_EQ(m.qtdJog, 10);
-    ASSERT_EQ(mesa->childCount(), 10 + 5);
+    ASSERT_EQ(mesa->childCount(), 10 + 7);
     EXPECT_EQ(nome(9), nomeDaCarta(cartaNa(m.jogValor, m.jogNaipe, 10)));
     EXPECT_EQ(descricao(10), std::to_string(monte - 1) + " cartas");
     EXPECT_NE(std::find(ouvidos.begin(), ouvidos.end(),

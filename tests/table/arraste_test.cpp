@@ -71,7 +71,7 @@ TEST(Arraste, DraggingLeftShiftsTheCardsBetween) {
     EXPECT_FALSE(t.sprite({Parte::cj, 2}).Visible) << "the hole is hidden";
     EXPECT_TRUE(t.sprite({Parte::cj, 5}).Visible);
     EXPECT_EQ(t.jogo.mesa.xOrigem, 255 + 1080);
-    Picmover_MouseUp(t.jogo, t.vista, kBotaoEsquerdo);
+    ateOFim(Picmover_MouseUp(t.jogo, t.vista, kBotaoEsquerdo));
     EXPECT_EQ(textoDaMao(t.jogo.mesa, Lado::Jog), "2/2 10/2 4/3 6/4 8/1 12/3 1/4 3/1 5/2");
     EXPECT_TRUE(t.vista.mensagens.empty());
     EXPECT_TRUE(t.sprite({Parte::cj, 2}).Visible);
@@ -106,7 +106,7 @@ TEST(Arraste, WithNineCardsADropAboveIsRefusedWithTheWarning) {
     t.jogo.modulo.tocarSom = true;
     pega(t, 3);
     arrasta(t, 0, -3000);
-    Picmover_MouseUp(t.jogo, t.vista, kBotaoEsquerdo);
+    ateOFim(Picmover_MouseUp(t.jogo, t.vista, kBotaoEsquerdo));
     EXPECT_EQ(t.vista.sons, std::vector<std::string>{"\\denied2.wav"});
     EXPECT_TRUE(t.vista.cena().textos.avisoVisivel);
     EXPECT_EQ(t.vista.cena().textos.aviso,
@@ -123,7 +123,7 @@ TEST(Arraste, WithTenCardsADropAboveDiscards) {
     t.jogo.mesa.qtdJog = 10;
     pega(t, 10);
     arrasta(t, -3000, -2500);
-    Picmover_MouseUp(t.jogo, t.vista, kBotaoEsquerdo);
+    ateOFim(Picmover_MouseUp(t.jogo, t.vista, kBotaoEsquerdo));
     EXPECT_EQ(t.jogo.mesa.qtdJog, 9);
     EXPECT_EQ(textoDaMao(t.jogo.mesa, Lado::Jog), kNove) << "slot 10 went; the nine stay";
     EXPECT_FALSE(t.sprite({Parte::cj, 10}).Visible);
@@ -135,7 +135,7 @@ TEST(Arraste, APlainClickOnARaisedCardDiscardsIt) {
     t.arma(kDez, kMac);
     t.jogo.mesa.qtdJog = 10;
     pega(t, 1);
-    Picmover_MouseUp(t.jogo, t.vista, kBotaoEsquerdo);
+    ateOFim(Picmover_MouseUp(t.jogo, t.vista, kBotaoEsquerdo));
     EXPECT_EQ(t.jogo.mesa.qtdJog, 9);
     EXPECT_EQ(textoDaMao(t.jogo.mesa, Lado::Jog), "4/3 6/4 8/1 10/2 12/3 1/4 3/1 5/2 13/1");
 }
@@ -147,7 +147,7 @@ TEST(Arraste, TheRightButtonDoesNothing) {
     cj_MouseMove(t.jogo, t.vista, 4);
     Picmover_MouseDown(t.jogo, t.vista, 2, 10, 10);
     EXPECT_EQ(t.jogo.mesa.arrastando, 0);
-    Picmover_MouseUp(t.jogo, t.vista, 2);
+    ateOFim(Picmover_MouseUp(t.jogo, t.vista, 2));
     EXPECT_EQ(t.jogo.mesa.qtdJog, 10);
 }
 
@@ -158,15 +158,15 @@ TEST(Voo, StepsFollowTheSpeedAndRoundDown) {
     s.Left = 1000;
     s.Top = 1000;
     t.jogo.modulo.velocidade = 6;
-    t.vista.voaCarta({Parte::discartado2}, 1100, 1000, 2.5); // 15 steps to the right
+    ateOFim(t.vista.voaCarta({Parte::discartado2}, 1100, 1000, 2.5)); // 15 steps to the right
     EXPECT_EQ(t.vista.esperas, 15);
     EXPECT_EQ(s.Left, 1105) << "steps of -7 overshoot: Int rounds down below 0";
     t.jogo.modulo.velocidade = 1;
     t.vista.esperas = 0;
-    t.vista.voaCarta({Parte::discartado2}, 0, 0, 1.5);
+    ateOFim(t.vista.voaCarta({Parte::discartado2}, 0, 0, 1.5));
     EXPECT_EQ(t.vista.esperas, 1);
     t.jogo.modulo.velocidade = 0;
-    t.vista.voaCarta({Parte::discartado2}, 0, 0, 1.5);
+    ateOFim(t.vista.voaCarta({Parte::discartado2}, 0, 0, 1.5));
     EXPECT_EQ(t.vista.esperas, 1) << "no speed, no steps, and no division by zero";
 }
 
