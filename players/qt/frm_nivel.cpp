@@ -83,7 +83,7 @@ bool FrmNivel::tecla(int key) {
         i = 1;
     else if (key == Qt::Key_F)
         i = 2;
-    else if (key == Qt::Key_J || key == Qt::Key_Space) {
+    else if (key == Qt::Key_J) { // Space is left to the focused part, as in every window
         escolha_.alternaJusta();
         mostra();
         return true;

@@ -395,6 +395,26 @@ TEST(FrmSimNao, TabReachesACommandThatEnterOrSpacePressesAndToolsSeeButtons) {
     EXPECT_FALSE(SimNao(nullptr, "Pergunta?", "Título")) << "the tool's press answers Não";
 }
 
+// In the level window too, Space presses the command Tab reached; it never ticks the box.
+TEST(FrmNivel, SpaceOnACommandReachedByTabPressesIt) {
+    for (const char* alvo : {"OK", "Cancelar"}) {
+        Module1 m;
+        ArmazemMemoria a;
+        FrmNivel nivel(nullptr, m, a);
+        nivel.show();
+        QApplication::setActiveWindow(&nivel);
+        auto* c = parte<Comando>(&nivel, alvo);
+        for (int i = 0; i < 12 && !c->focoDoTeclado(); ++i)
+            QTest::keyClick(nivel.focusWidget() ? nivel.focusWidget() : &nivel, Qt::Key_Tab);
+        ASSERT_TRUE(c->focoDoTeclado()) << alvo;
+        const bool justa = parte<QCheckBox>(&nivel, "Justa")->isChecked();
+        QTest::keyClick(c, Qt::Key_Space);
+        EXPECT_EQ(nivel.result(),
+                  std::string(alvo) == "OK" ? QDialog::Accepted : QDialog::Rejected);
+        EXPECT_EQ(parte<QCheckBox>(&nivel, "Justa")->isChecked(), justa) << alvo;
+    }
+}
+
 TEST(FrmPlacar, TheNamesAndPointsBlinkOnlyAtTheEndOfAMatch) {
     Module1 m;
     m.nomeJogador = "Ana";
