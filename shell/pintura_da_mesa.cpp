@@ -44,12 +44,18 @@ void pintaNivelEDica(QPainter& p, const QuadroDaMesa& q) {
                    QStringLiteral(" Baralho de quatro cores (Q)"));
 }
 
-void pintaCartas(QPainter& p, const QuadroDaMesa& q) {
+// The cards in the air: the one the mouse holds and the one in flight.
+bool noAr(Peca peca) {
+    return peca == peca::kPicmover || peca == peca::kDiscartado2;
+}
+
+// The sprites on the table, or those in the air, back to front.
+void pintaCartas(QPainter& p, const QuadroDaMesa& q, bool osNoAr) {
     p.save();
     p.setClipRect(QRect(lugar::kPainel, lugar::kTamanhoDoPainel));
     for (const Peca peca : q.cena.ordem()) {
         const Sprite& s = q.cena[peca];
-        if (!s.Visible || s.Picture == kSemFigura) continue;
+        if (!s.Visible || s.Picture == kSemFigura || noAr(peca) != osNoAr) continue;
         // Cards over cards show what lies below at their corners.
         const QPixmap& figura = s.contorno || peca == peca::kPicmover
                                     ? q.imagens.recortada(s.Picture)
@@ -59,7 +65,8 @@ void pintaCartas(QPainter& p, const QuadroDaMesa& q) {
     p.restore();
 }
 
-void pintaTextos(QPainter& p, const QuadroDaMesa& q) {
+// The texts of the window's bottom strip, outside the panel the cards keep to.
+void pintaTextosDaJanela(QPainter& p, const QuadroDaMesa& q) {
     const Textos& t = q.cena.textos;
     p.save();
     p.setFont(fonte(kLetra));
@@ -75,11 +82,23 @@ void pintaTextos(QPainter& p, const QuadroDaMesa& q) {
         p.setFont(fonte(kLetra, true));
         p.drawText(lugar::kLabel4, Qt::AlignCenter, QString::fromStdString(t.label4));
     }
+    p.restore();
+}
+
+// The panel's texts lie on the felt, as the lines beside the pile: a card covers them.
+void pintaTextosDoPainel(QPainter& p, const QuadroDaMesa& q) {
+    const Textos& t = q.cena.textos;
+    p.save();
     p.translate(lugar::kPainel);
     if (t.avisoVisivel) {
         p.setFont(fonte(kLetra, true));
         p.setPen(QColor(255, 236, 120));
         p.drawText(lugar::kLabel6, Qt::AlignCenter, QString::fromStdString(t.aviso));
+    } else if (q.dica) {
+        // The advice takes the warning's line when it is free.
+        p.setFont(fonte(kLetra, true));
+        p.setPen(lugar::kOuroDaDica);
+        p.drawText(lugar::kLabel6, Qt::AlignCenter, QString::fromStdString(q.dica->texto));
     }
     p.setFont(fonte(kLetraDoPlacar, true));
     p.setPen(QColor(250, 250, 240));
@@ -96,8 +115,8 @@ void pintaTextos(QPainter& p, const QuadroDaMesa& q) {
     p.restore();
 }
 
-// The part to play ringed in gold, and the advice on the warning's line when it is free.
-void pintaDica(QPainter& p, const QuadroDaMesa& q) {
+// The part to play ringed in gold, over its neighbours; a card in the air passes over it.
+void pintaAnelDaDica(QPainter& p, const QuadroDaMesa& q) {
     if (!q.dica) return;
     p.save();
     p.setRenderHint(QPainter::Antialiasing, true);
@@ -105,11 +124,6 @@ void pintaDica(QPainter& p, const QuadroDaMesa& q) {
     p.setBrush(Qt::NoBrush);
     p.drawRoundedRect(
         QRectF(retanguloDaPeca(q.cena, q.dica->peca())).adjusted(-2.5, -2.5, 2.5, 2.5), 6, 6);
-    if (!q.cena.textos.avisoVisivel) {
-        p.setFont(fonte(kLetra, true));
-        p.drawText(lugar::kLabel6.translated(lugar::kPainel), Qt::AlignCenter,
-                   QString::fromStdString(q.dica->texto));
-    }
     p.restore();
 }
 
@@ -138,10 +152,12 @@ void pintaMesa(QPainter& p, const QuadroDaMesa& q) {
     if (aceso >= 1 && aceso <= lugar::kBotoesAcesos)
         p.drawPixmap(lugar::kBotoes[aceso - 1].topLeft(), q.imagens.botaoAceso(aceso));
     pintaNivelEDica(p, q);
-    pintaCartas(p, q);
-    pintaTextos(p, q);
-    pintaDica(p, q);
+    pintaTextosDoPainel(p, q);
+    pintaCartas(p, q, false);
+    pintaAnelDaDica(p, q);
     pintaFoco(p, q);
+    pintaCartas(p, q, true);
+    pintaTextosDaJanela(p, q);
 }
 
 } // namespace corvina

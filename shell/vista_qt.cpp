@@ -48,14 +48,14 @@ void VistaQt::processaEventos() {
 }
 
 bool VistaQt::adia(int milissegundos, std::coroutine_handle<> retomada) {
-    if (teste_) return false;
+    if (teste_ && pausaDeTeste_ < 0) return false;
     pausada_ = retomada;
-    relogio_.start(milissegundos);
+    relogio_.start(teste_ ? pausaDeTeste_ : milissegundos);
     return true;
 }
 
 bool VistaQt::pensa(const std::function<void()>& trabalho, std::coroutine_handle<> retomada) {
-    if (teste_ || !tela_) {
+    if ((teste_ && pausaDeTeste_ < 0) || !tela_) {
         trabalho();
         return false;
     }

@@ -34,6 +34,9 @@ class VistaQt : public VistaDeCena {
     // (OK, or Não); windows open through this when it is set.
     std::function<void(Janela)> aoAbrirJanela;
     void modoDeTeste(bool ligado) { teste_ = ligado; }
+    // In test mode still, pauses of this length pass through the window's loop and the machine
+    // thinks on a worker, as on the desktop: input can come between the steps of a move.
+    void pausasDeTeste(int milissegundos) { pausaDeTeste_ = milissegundos; }
 
     int caixaMensagem(const std::string& texto, int estilo, const std::string& titulo) override;
     void preparaPlacar(const Placar& placar) override;
@@ -60,6 +63,7 @@ class VistaQt : public VistaDeCena {
     Som* som_ = nullptr;
     JanelasQt* janelas_ = nullptr;
     bool teste_ = false;
+    int pausaDeTeste_ = -1; // none: a test's moves run through without waiting
     Placar placar_;
     // The one pause under way: the game is one move at a time.
     QTimer relogio_;
