@@ -88,13 +88,10 @@ struct MesaNaTela {
     }
 };
 
-TEST(MesaNaTela, AWholeHandIsPlayedWithTheMouse) {
+TEST(MesaNaTela, ADraggedCardChangesPlaceAndThePictureIsSaved) {
     MesaNaTela t;
     ASSERT_EQ(t.jogo.mesa.qtdJog, 9) << "the first activation dealt";
     EXPECT_EQ(t.jogo.modulo.nomeJogador, "Teste");
-    const QRect monte = t.janela.retanguloDa(peca::kCostas2);
-
-    // A dragged card changes its place in the row.
     const Carta primeira = cartaNa(t.jogo.mesa.jogValor, t.jogo.mesa.jogNaipe, 1);
     const QPoint sobre = t.janela.retanguloDa(peca::cj(1)).center();
     t.move(sobre);
@@ -104,41 +101,18 @@ TEST(MesaNaTela, AWholeHandIsPlayedWithTheMouse) {
     EXPECT_NE(cartaNa(t.jogo.mesa.jogValor, t.jogo.mesa.jogNaipe, 1), primeira);
     EXPECT_EQ(cartaNa(t.jogo.mesa.jogValor, t.jogo.mesa.jogNaipe, 3), primeira);
 
-    // Draw from the stock, throw the drawn card, until a side wins or the stock runs out.
-    const int pontos = t.jogo.modulo.pontosJog + t.jogo.modulo.pontosMac;
-    bool acabou = false;
-    for (int vez = 0; vez < 60 && !acabou; ++vez) {
-        const int16 monteAntes = t.jogo.mesa.qtdBaralho;
-        t.clica(monte.center());
-        if (t.jogo.mesa.qtdJog != 10) {
-            acabou = true; // the stock was spent: a new hand was dealt
-            break;
-        }
-        EXPECT_EQ(t.jogo.mesa.qtdBaralho, monteAntes - 1);
-        t.descarta(10);
-        ASSERT_EQ(t.jogo.mesa.qtdJog, 9) << "the drop above the row discards";
-        acabou = t.jogo.modulo.pontosJog + t.jogo.modulo.pontosMac != pontos ||
-                 t.jogo.mesa.qtdBaralho > monteAntes;
-    }
-    EXPECT_TRUE(acabou) << "no hand ended in 60 turns";
-
-    // One more draw, so that the picture shows a hand of ten with a card raised.
-    t.clica(monte.center());
+    // A draw, so that the picture shows a hand of ten with a card raised.
+    t.clica(t.janela.retanguloDa(peca::kCostas2).center());
     t.move(t.janela.retanguloDa(peca::cj(4)).center());
-    QApplication::processEvents();
     const QString arquivo = QString(CORVINA_PASTA_DE_TESTE) + "/mesa.png";
     EXPECT_TRUE(t.janela.grab().save(arquivo)) << arquivo.toStdString();
 }
 
-TEST(MesaNaTela, AWholeHandIsPlayedWithTheKeys) {
+TEST(MesaNaTela, TheKeysWalkTheRowAndCarryTheCardInFocus) {
     MesaNaTela t;
-    ASSERT_EQ(t.jogo.mesa.qtdJog, 9);
     const Mesa& m = t.jogo.mesa;
-    const auto carta = [&](int casa) { return cartaNa(m.jogValor, m.jogNaipe, casa); };
-
     // Enter before drawing: the warning, as a card dropped on the pile, and nothing moves.
     t.tecla(Qt::Key_Right);
-    ASSERT_EQ(t.vista.cena().foco, 1);
     t.tecla(Qt::Key_Return);
     EXPECT_EQ(m.qtdJog, 9);
     EXPECT_TRUE(t.vista.cena().textos.avisoVisivel);
@@ -152,45 +126,67 @@ TEST(MesaNaTela, AWholeHandIsPlayedWithTheKeys) {
     EXPECT_GT(brancos, r.width() / 4) << "the focus ring on the first card";
 
     // Shift+Right carries the card one place along; Tab and the arrows walk the row.
-    const Carta primeira = carta(1);
+    const Carta primeira = cartaNa(m.jogValor, m.jogNaipe, 1);
     t.tecla(Qt::Key_Right, Qt::ShiftModifier);
-    EXPECT_EQ(carta(2), primeira);
+    EXPECT_EQ(cartaNa(m.jogValor, m.jogNaipe, 2), primeira);
     EXPECT_EQ(t.vista.cena().foco, 2);
     t.tecla(Qt::Key_Tab);
     EXPECT_EQ(t.vista.cena().foco, 3);
-    t.tecla(Qt::Key_Left);
-    t.tecla(Qt::Key_Left);
-    t.tecla(Qt::Key_Left);
+    for (int i = 0; i < 3; ++i) t.tecla(Qt::Key_Left);
     EXPECT_EQ(t.vista.cena().foco, 9) << "left of the first is the last";
+}
 
-    // B draws, End finds the card drawn, Enter throws it; P takes the pile once.
-    const int pontos = t.jogo.modulo.pontosJog + t.jogo.modulo.pontosMac;
-    bool acabou = false, tomou = false;
-    for (int vez = 0; vez < 60 && !acabou; ++vez) {
-        const int16 monteAntes = m.qtdBaralho;
-        const bool pilha = !tomou && t.jogo.modulo.qtdDescarte > 0;
-        t.tecla(pilha ? Qt::Key_P : Qt::Key_B);
-        if (m.qtdJog != 10) {
-            acabou = true; // the stock was spent: a new hand was dealt
-            break;
+// A whole match by one way in alone, following the hint as its player takes it in: by the keys
+// (D; then B, P, or the slot's digit and Enter), or by a screen reader's actions alone (the
+// hint's action and its words, then "comprar", "pegar", or "descartar" on the card it names).
+TEST(MesaNaTela, AWholeMatchIsPlayedByTheKeysAloneAndByTheScreenReadersActionsAlone) {
+    for (const bool leitor : {false, true}) {
+        SCOPED_TRACE(leitor ? "leitor" : "teclas");
+        MesaNaTela t;
+        QAccessibleInterface* mesa = QAccessible::queryAccessibleInterface(&t.janela);
+        const auto parte = [&](const std::string& nome) -> QAccessibleInterface* {
+            for (int i = 0; i < mesa->childCount(); ++i)
+                if (mesa->child(i)->text(QAccessible::Name).toStdString() == nome)
+                    return mesa->child(i);
+            return nullptr;
+        };
+        const auto age = [&](const std::string& nome, const char* acao) {
+            if (QAccessibleInterface* p = parte(nome)) p->actionInterface()->doAction(acao);
+        };
+        const auto partidas = [&] {
+            return std::count(t.abertas.begin(), t.abertas.end(), Janela::FrmNome) - 1;
+        };
+        for (int vez = 0; vez < 4000 && partidas() == 0; ++vez) {
+            leitor ? age("Dica", "dica") : t.tecla(Qt::Key_D);
+            const auto dica = t.janela.dicaAtual();
+            ASSERT_TRUE(dica) << "every turn of the player has a hint";
+            const std::string palavras =
+                leitor ? parte("Dica")->text(QAccessible::Description).toStdString() : dica->texto;
+            if (dica->tipo == Dica::Tipo::Baralho) {
+                leitor ? age("Baralho", "comprar") : t.tecla(Qt::Key_B);
+            } else if (dica->tipo == Dica::Tipo::Descarte) {
+                leitor ? age("Descarte", "pegar") : t.tecla(Qt::Key_P);
+            } else if (leitor) {
+                // The card whose name ends the hint's words.
+                for (int i = 0; i < t.jogo.mesa.qtdJog; ++i) {
+                    const std::string nome = mesa->child(i)->text(QAccessible::Name).toStdString();
+                    if (palavras.ends_with(nome)) {
+                        mesa->child(i)->actionInterface()->doAction("descartar");
+                        break;
+                    }
+                }
+            } else {
+                t.tecla(static_cast<Qt::Key>(Qt::Key_0 + dica->casa % 10));
+                t.tecla(Qt::Key_Return);
+            }
+            ASSERT_FALSE(t.janela.dicaAtual()) << palavras << ": the table did not move";
         }
-        EXPECT_EQ(m.qtdBaralho, pilha ? monteAntes : monteAntes - 1);
-        tomou = tomou || pilha;
-        const Carta jogada = carta(pilha ? 1 : 10);
-        t.tecla(pilha ? Qt::Key_Home : Qt::Key_End);
-        t.tecla(Qt::Key_Space);
-        ASSERT_EQ(m.qtdJog, 9) << "the key discards the card in focus";
-        EXPECT_LE(t.vista.cena().foco, 9);
-        acabou = t.jogo.modulo.pontosJog + t.jogo.modulo.pontosMac != pontos ||
-                 m.qtdBaralho > monteAntes;
-        if (acabou) break;
-        const Historico& h = t.jogo.historico;
-        const auto minha = std::find(h.autores.rbegin(), h.autores.rend(), Lado::Jog);
-        ASSERT_NE(minha, h.autores.rend());
-        EXPECT_EQ(h.descartes[static_cast<std::size_t>(h.autores.rend() - minha - 1)], jogada);
+        EXPECT_EQ(partidas(), 1) << "a match was played to its end";
+        const std::string chave = chaveJogador("Teste");
+        EXPECT_EQ(numeroDoTexto(t.settings.le(chave, ajuste::kVitorias, "0")) +
+                      numeroDoTexto(t.settings.le(chave, ajuste::kDerrotas, "0")),
+                  1);
     }
-    EXPECT_TRUE(tomou);
-    EXPECT_TRUE(acabou) << "no hand ended in 60 turns";
 }
 
 TEST(MesaNaTela, AScreenReaderReadsTheTableAndHearsItsChanges) {
