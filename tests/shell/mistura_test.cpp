@@ -18,6 +18,7 @@
 #include <memory>
 #include <random>
 #include <thread>
+#include <tuple>
 
 #include "core/ajustes.h"
 #include "core/pecas.h"
@@ -53,16 +54,10 @@ class NivelLento : public Nivel {
 };
 
 // What the player's input could change of the game.
-struct Estado {
-    Casas jogValor, jogNaipe, macValor, macNaipe;
-    int16 qtdJog, qtdMac, qtdBaralho, discarteValor, discarteNaipe, qtdDescarte;
-    friend bool operator==(const Estado&, const Estado&) = default;
-};
-
-Estado estadoDe(const Jogo& j) {
+auto estadoDe(const Jogo& j) {
     const Mesa& m = j.mesa;
-    return {m.jogValor, m.jogNaipe,   m.macValor,      m.macNaipe,      m.qtdJog,
-            m.qtdMac,   m.qtdBaralho, m.discarteValor, m.discarteNaipe, j.modulo.qtdDescarte};
+    return std::tuple(m.jogValor, m.jogNaipe, m.macValor, m.macNaipe, m.qtdJog, m.qtdMac,
+                      m.qtdBaralho, m.discarteValor, m.discarteNaipe, j.modulo.qtdDescarte);
 }
 
 constexpr int kPausaDoVoo = 1; // ms per step of a flight: moves last a few events
@@ -189,7 +184,7 @@ struct MesaViva {
     template <class F> void entrada(const std::string& nome, F&& f) {
         diario.push_back(nome);
         const bool ocupada = !livre();
-        const Estado antes = estadoDe(jogo);
+        const auto antes = estadoDe(jogo);
         f();
         if (ocupada) {
             EXPECT_TRUE(estadoDe(jogo) == antes) << nome << " changed the game in mid-move";

@@ -130,27 +130,6 @@ TEST(Arraste, WithTenCardsADropAboveDiscards) {
     EXPECT_EQ(t.vista.cena().textos.prompt, "Pegue uma carta no baralho ou no descarte");
 }
 
-TEST(Arraste, APlainClickOnARaisedCardDiscardsIt) {
-    MesaDeCena t;
-    t.arma(kDez, kMac);
-    t.jogo.mesa.qtdJog = 10;
-    pega(t, 1);
-    ateOFim(Picmover_MouseUp(t.jogo, t.vista, kBotaoEsquerdo));
-    EXPECT_EQ(t.jogo.mesa.qtdJog, 9);
-    EXPECT_EQ(textoDaMao(t.jogo.mesa, Lado::Jog), "4/3 6/4 8/1 10/2 12/3 1/4 3/1 5/2 13/1");
-}
-
-TEST(Arraste, TheRightButtonDoesNothing) {
-    MesaDeCena t;
-    t.arma(kDez, kMac);
-    t.jogo.mesa.qtdJog = 10;
-    cj_MouseMove(t.jogo, t.vista, 4);
-    Picmover_MouseDown(t.jogo, t.vista, 2, 10, 10);
-    EXPECT_EQ(t.jogo.mesa.arrastando, 0);
-    ateOFim(Picmover_MouseUp(t.jogo, t.vista, 2));
-    EXPECT_EQ(t.jogo.mesa.qtdJog, 10);
-}
-
 TEST(Voo, StepsFollowTheSpeedAndRoundDown) {
     MesaDeCena t;
     t.arma(kNove, kMac);
