@@ -119,8 +119,9 @@ void Condutor::move(int16 de, int16 para) {
     poeCarta(m.jogValor, m.jogNaipe, para, levada);
     vista_.apresentacartasdojog(std::min(de, para), std::max(de, para));
     int16& foco = vista_.cena().foco;
-    if (foco == de) foco = para; // the focus goes with the card
+    if (foco == de) foco = para; // the focus goes with the card, and so does its raise
     if (m.cartaAtual == de) m.cartaAtual = para;
+    if (m.destacada == de && jogo_.modulo.animarCartas) vista_.destaca(para);
     assentaAtencao(jogo_, vista_);
 }
 

@@ -134,6 +134,13 @@ TEST(MesaNaTela, TheKeysWalkTheRowAndCarryTheCardInFocus) {
     EXPECT_EQ(t.vista.cena().foco, 3);
     for (int i = 0; i < 3; ++i) t.tecla(Qt::Key_Left);
     EXPECT_EQ(t.vista.cena().foco, 9) << "left of the first is the last";
+
+    // With ten cards the card in focus stands raised, and stays so as the keys carry it.
+    t.tecla(Qt::Key_B);
+    t.tecla(Qt::Key_Home);
+    t.tecla(Qt::Key_Right, Qt::ShiftModifier);
+    EXPECT_LT(t.vista.cena()[peca::cj(2)].Top, m.yMao);
+    EXPECT_EQ(t.vista.cena()[peca::cj(1)].Top, m.yMao);
 }
 
 // A whole match by one way in alone, following the hint as its player takes it in: by the keys
