@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <random>
 #include <vector>
 
@@ -60,48 +61,43 @@ void confere(const std::vector<Carta>& cartas, Lado lado, bool curta) {
     ASSERT_EQ(rapida.macNaipe, literal.macNaipe) << descreve();
 }
 
+// Hands from the whole of two packs, from small corners where trincas abound, from the corner
+// where melds wrap around the ace, and hands no deal can make (a third copy, too few cards).
 TEST(ContagemDiferencial, AgreesWithTheLiteralCountOnRandomHands) {
     Sorteador s(20261123);
-    constexpr int kMaos = 100000;
-    for (int i = 0; i < kMaos; ++i) {
-        const int qtd = 9 + i % 2;
-        const auto cartas = s.mao(qtd, kValores, kNaipes);
-        const Lado lado = i % 4 < 2 ? Lado::Jog : Lado::Mac;
-        confere(cartas, lado, false);
-        confere(cartas, lado, true);
-        if (HasFatalFailure()) return;
-    }
-}
-
-TEST(ContagemDiferencial, AgreesOnHandsCrowdedWithTrincas) {
-    Sorteador s(42);
     std::uniform_int_distribution<int> valores(3, 6), naipes(2, 4), base(0, 7);
-    for (int i = 0; i < 50000; ++i) {
-        const int nv = valores(s.gerador()), nn = naipes(s.gerador());
-        s.base(std::min(base(s.gerador()), kValores - nv));
-        const int qtd = std::min(9 + i % 2, 2 * nv * nn);
-        const auto cartas = s.mao(qtd, nv, nn);
-        confere(cartas, Lado::Jog, i % 2 == 0);
-        if (HasFatalFailure()) return;
-    }
-}
-
-TEST(ContagemDiferencial, AgreesOnHandsThatWrapAroundTheAce) {
-    // Kings, queens, aces and twos of two suits: every wrapped meld in play.
-    Sorteador s(7);
     const std::vector<Carta> canto = *lerCartas("12/1 13/1 1/1 2/1 11/1 3/1 12/4 13/4 1/4 2/4 11/4 "
                                                 "3/4 12/1 13/1 1/1 2/1 12/4 13/4 1/4 2/4");
-    for (int i = 0; i < 30000; ++i) {
-        auto cartas = canto;
-        std::shuffle(cartas.begin(), cartas.end(), s.gerador());
-        cartas.resize(9 + i % 2);
-        confere(cartas, Lado::Jog, i % 3 == 0);
-        if (HasFatalFailure()) return;
-    }
-}
-
-TEST(ContagemDiferencial, AgreesOnHandsNoDealCanMake) {
-    // Three copies of a card, or fewer than three cards: the fast count must still agree.
+    const struct {
+        const char* nome;
+        int maos;
+        std::function<std::vector<Carta>(int)> mao;
+    } fontes[] = {
+        {"two packs", 100000, [&](int i) { return s.mao(9 + i % 2, kValores, kNaipes); }},
+        {"crowded", 50000,
+         [&](int i) {
+             const int nv = valores(s.gerador()), nn = naipes(s.gerador());
+             s.base(std::min(base(s.gerador()), kValores - nv));
+             auto m = s.mao(std::min(9 + i % 2, 2 * nv * nn), nv, nn);
+             s.base(0);
+             return m;
+         }},
+        {"around the ace", 30000,
+         [&](int i) {
+             auto m = canto;
+             std::shuffle(m.begin(), m.end(), s.gerador());
+             m.resize(9 + i % 2);
+             return m;
+         }},
+    };
+    for (const auto& f : fontes)
+        for (int i = 0; i < f.maos; ++i) {
+            const auto cartas = f.mao(i);
+            const Lado lado = i % 4 < 2 ? Lado::Jog : Lado::Mac;
+            confere(cartas, lado, false);
+            confere(cartas, lado, true);
+            if (HasFatalFailure()) return;
+        }
     for (const char* texto : {"5/1 5/1 5/1 6/1 7/1 8/2 8/3 8/4 1/1", "5/1 6/1", "1/1 2/1 3/1"}) {
         confere(*lerCartas(texto), Lado::Jog, false);
         confere(*lerCartas(texto), Lado::Jog, true);

@@ -1,5 +1,5 @@
-// The real table window, offscreen: a whole hand played with Qt mouse events on the widget,
-// and a picture of the table saved under the build folder.
+// The real table window, offscreen, played with Qt's key and mouse events and the screen
+// reader's actions; its pictures read back from the widget.
 
 #include <gtest/gtest.h>
 
@@ -87,26 +87,6 @@ struct MesaNaTela {
         envia(QEvent::MouseButtonRelease, p, Qt::LeftButton, Qt::NoButton);
     }
 };
-
-TEST(MesaNaTela, ADraggedCardChangesPlaceAndThePictureIsSaved) {
-    MesaNaTela t;
-    ASSERT_EQ(t.jogo.mesa.qtdJog, 9) << "the first activation dealt";
-    EXPECT_EQ(t.jogo.modulo.nomeJogador, "Teste");
-    const Carta primeira = cartaNa(t.jogo.mesa.jogValor, t.jogo.mesa.jogNaipe, 1);
-    const QPoint sobre = t.janela.retanguloDa(peca::cj(1)).center();
-    t.move(sobre);
-    t.envia(QEvent::MouseButtonPress, sobre, Qt::LeftButton, Qt::LeftButton);
-    t.move(sobre + QPoint(180, 0), Qt::LeftButton);
-    t.envia(QEvent::MouseButtonRelease, sobre + QPoint(180, 0), Qt::LeftButton, Qt::NoButton);
-    EXPECT_NE(cartaNa(t.jogo.mesa.jogValor, t.jogo.mesa.jogNaipe, 1), primeira);
-    EXPECT_EQ(cartaNa(t.jogo.mesa.jogValor, t.jogo.mesa.jogNaipe, 3), primeira);
-
-    // A draw, so that the picture shows a hand of ten with a card raised.
-    t.clica(t.janela.retanguloDa(peca::kCostas2).center());
-    t.move(t.janela.retanguloDa(peca::cj(4)).center());
-    const QString arquivo = QString(CORVINA_PASTA_DE_TESTE) + "/mesa.png";
-    EXPECT_TRUE(t.janela.grab().save(arquivo)) << arquivo.toStdString();
-}
 
 TEST(MesaNaTela, TheKeysWalkTheRowAndCarryTheCardInFocus) {
     MesaNaTela t;
