@@ -28,7 +28,14 @@ publica)
 assina)
   chave=$2 pacote=$3 versao=$4 url=$5
   case "$url" in https://*) ;; *) echo "the URL must be https" >&2; exit 2 ;; esac
-  assinatura=$(openssl pkeyutl -sign -rawin -inkey "$chave" -in "$pacote" | base64 -w0)
+  case "$versao" in *[!0-9.]* | .* | *. | *..*) echo "the version is three numbers: 3.8.0" >&2; exit 2 ;; esac
+  # What is signed names the version with the package's SHA-512: an older package, signed in
+  # its day, can't be offered as a newer one.
+  resumo=$(sha512sum "$pacote" | cut -d' ' -f1)
+  declaracao=$(mktemp)
+  trap 'rm -f "$declaracao"' EXIT
+  printf 'Corvina %s\nsha512 %s\n' "$versao" "$resumo" >"$declaracao"
+  assinatura=$(openssl pkeyutl -sign -rawin -inkey "$chave" -in "$declaracao" | base64 -w0)
   printf '!*!Corvina!*!%s!*!%s!*!%s!*!\n' "$versao" "$url" "$assinatura"
   ;;
 *)

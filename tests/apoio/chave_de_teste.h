@@ -25,6 +25,16 @@ struct ChaveDeTeste {
         sodium_bin2base64(b64, sizeof b64, sig, sizeof sig, sodium_base64_VARIANT_ORIGINAL);
         return b64;
     }
+    // The signature of a package's contents declared as `versao`, as the release script makes
+    // it: the version and the contents' SHA-512.
+    std::string assinaPacote(std::string_view versao, std::string_view conteudo) const {
+        unsigned char resumo[crypto_hash_sha512_BYTES];
+        crypto_hash_sha512(resumo, reinterpret_cast<const unsigned char*>(conteudo.data()),
+                           conteudo.size());
+        char hex[2 * sizeof resumo + 1];
+        sodium_bin2hex(hex, sizeof hex, resumo, sizeof resumo);
+        return assina("Corvina " + std::string(versao) + "\nsha512 " + hex + "\n");
+    }
     // The public half, 64 hex digits, as the build takes it.
     std::string publicaHex() const {
         char hex[2 * crypto_sign_PUBLICKEYBYTES + 1];

@@ -332,7 +332,7 @@ TEST(Textos, EveryTextFitsItsPlace) {
     FrmPlacar placar(nullptr, m, {"Parabéns, você foi o vencedor", 4, 3, false});
     FrmRecords records(nullptr, m, a, nullptr);
     FrmSobre sobre(nullptr, versaoDoPrograma());
-    FrmUp up(nullptr, "https://127.0.0.1:1/x.deb", "");
+    FrmUp up(nullptr, "https://127.0.0.1:1/x.deb", "3.8.0", "");
     FrmNivel nivel(nullptr, m, a);
     for (QWidget* w : std::initializer_list<QWidget*>{&nome, &novo, &opc, &placar, &records, &sobre,
                                                       &up, &nivel})

@@ -140,10 +140,11 @@ TEST(AssinaPacote, WhatTheReleaseScriptSignsTheGameAccepts) {
     EXPECT_EQ(campo(linha, "!*!", 2), "0.2.0");
     EXPECT_EQ(campo(linha, "!*!", 3), "https://a/c.deb");
     const std::string assinatura = campo(linha, "!*!", 4);
-    EXPECT_TRUE(assinaturaConfere(pacote, assinatura, chave));
+    EXPECT_TRUE(assinaturaConfere(pacote, "0.2.0", assinatura, chave));
+    EXPECT_FALSE(assinaturaConfere(pacote, "0.3.0", assinatura, chave)) << "another version";
     { std::ofstream(pacote, std::ios::binary | std::ios::app) << "!"; }
-    EXPECT_FALSE(assinaturaConfere(pacote, assinatura, chave)) << "one byte more";
-    EXPECT_FALSE(assinaturaConfere(pasta + "/nao-ha.deb", assinatura, chave));
+    EXPECT_FALSE(assinaturaConfere(pacote, "0.2.0", assinatura, chave)) << "one byte more";
+    EXPECT_FALSE(assinaturaConfere(pasta + "/nao-ha.deb", "0.2.0", assinatura, chave));
     std::filesystem::remove_all(pasta);
 }
 

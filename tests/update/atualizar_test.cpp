@@ -28,10 +28,12 @@ using teste::Resposta;
 // The test key, in the types of the windows.
 struct Chave : teste::ChaveDeTeste {
     QString publicaHex() const { return QString::fromStdString(ChaveDeTeste::publicaHex()); }
+    // The signature of a package offered as 3.7.5.
     QString assina(const QByteArray& dados) const {
         return QString::fromStdString(
-            ChaveDeTeste::assina(std::string_view(dados.constData(), dados.size())));
+            assinaPacote(kOferecida, std::string_view(dados.constData(), dados.size())));
     }
+    static constexpr const char* kOferecida = "3.7.5";
 };
 
 // The text of the message box that opens, and its answer.
@@ -59,17 +61,17 @@ struct Atualizacao : testing::Test {
         for (const auto& [nome, feito] : teste::janelasEsperadas())
             EXPECT_TRUE(*feito) << nome << " never opened";
     }
-    QStringList instaladores; // what would have been started
+    QStringList instaladores; // what would have been run
     int fins = 0;
     // Runs FrmUp on a link and a signature; the text of the message it ended with.
     QString frmUp(const QString& caminho, const QString& assinatura, QString* destino = nullptr,
                   QString chavePublica = {}, std::function<void(FrmUp&)> ajusta = {}) {
-        FrmUp up(nullptr, servidor.url(caminho), assinatura);
+        FrmUp up(nullptr, servidor.url(caminho), Chave::kOferecida, assinatura);
         up.paciencia = 2;
         up.chavePublica = chavePublica.isNull() ? chave.publicaHex() : chavePublica;
-        up.iniciaInstalador = [this](const QString& programa, const QStringList& argumentos) {
+        up.executaInstalador = [this](const QString& programa, const QStringList& argumentos) {
             instaladores << programa + " " + argumentos.join(' ');
-            return true;
+            return 0;
         };
         up.encerra = [this] { ++fins; };
         if (ajusta) ajusta(up);
@@ -86,15 +88,41 @@ TEST_F(Atualizacao, ASignedPackageIsHandedToTheInstallerAndTheRunEnds) {
     EXPECT_EQ(frmUp("/c.deb", chave.assina(pacote), &destino),
               "O Corvina será fechado para que a atualização seja feita");
     ASSERT_EQ(instaladores.size(), 1);
-    EXPECT_EQ(
-        instaladores[0],
-        QString("/usr/bin/pkexec %1 %2 %3").arg(CORVINA_AJUDANTE, destino, chave.assina(pacote)))
+    EXPECT_EQ(instaladores[0], QString("/usr/bin/pkexec %1 %2 3.7.5 %3")
+                                   .arg(CORVINA_AJUDANTE, destino, chave.assina(pacote)))
         << "the helper checks again what it installs";
     EXPECT_EQ(fins, 1);
     EXPECT_TRUE(destino.startsWith(casa.path() + "/Corvina-")) << destino.toStdString();
     QFile f(destino);
     ASSERT_TRUE(f.open(QIODevice::ReadOnly));
     EXPECT_EQ(f.readAll(), pacote);
+}
+
+// The helper's refusal reaches the player, after the notice of the closing, and the game goes
+// on without the downloaded file.
+TEST_F(Atualizacao, TheHelpersRefusalIsToldAndTheGameGoesOn) {
+    const struct {
+        int codigo;
+        const char* mensagem;
+    } casos[] = {
+        {10, "A atualização recebida não é mais nova que a versão instalada"},
+        {126, "A atualização não foi autorizada"},
+        {-1, "Não foi possível instalar a atualização"},
+    };
+    for (const auto& c : casos) {
+        QString destino, aviso;
+        EXPECT_EQ(frmUp("/c.deb", chave.assina(pacote), &destino, {},
+                        [&](FrmUp& up) {
+                            up.executaInstalador = [&](const QString&, const QStringList&) {
+                                responde(&aviso);
+                                return c.codigo;
+                            };
+                        }),
+                  "O Corvina será fechado para que a atualização seja feita");
+        EXPECT_EQ(aviso, c.mensagem);
+        EXPECT_EQ(fins, 0) << c.codigo;
+        EXPECT_FALSE(QFile::exists(destino)) << c.codigo;
+    }
 }
 
 TEST_F(Atualizacao, NeitherEscapeNorClosingStopsTheDownload) {
@@ -182,8 +210,9 @@ TEST_F(Atualizacao, TheAboutWindowChecksAsksAndOpensTheDownload) {
         sobre.servidor = servidor.url("/");
         sobre.paciencia = 0.5;
         QStringList abertos;
-        sobre.abreFrmUp = [&](const QString& link, const QString& assinatura) {
-            abertos << link << assinatura;
+        sobre.abreFrmUp = [&](const QString& link, const QString& versao,
+                              const QString& assinatura) {
+            abertos << link << versao << assinatura;
         };
         EXPECT_EQ(sobre.findChild<QLabel*>("Label1")->text(), "Lunaris - Corvina  3.7.4");
         QString texto;
@@ -192,7 +221,8 @@ TEST_F(Atualizacao, TheAboutWindowChecksAsksAndOpensTheDownload) {
         EXPECT_EQ(texto, c.mensagem) << c.caso;
         EXPECT_EQ(!abertos.isEmpty(), c.baixa) << c.caso;
         if (c.baixa) {
-            EXPECT_EQ(abertos, QStringList({servidor.url("/c.deb"), chave.assina(pacote)}));
+            EXPECT_EQ(abertos,
+                      QStringList({servidor.url("/c.deb"), "3.7.5", chave.assina(pacote)}));
         }
         EXPECT_TRUE(sobre.findChild<QPushButton*>("Command1")->isEnabled()) << c.caso;
     }

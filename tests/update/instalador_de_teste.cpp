@@ -1,9 +1,9 @@
-// The update helper as its tests run it: the same code, with the user, the safe folder, the key
-// and the installer taken from the environment instead of pkexec and the system.
+// The update helper as its tests run it: the same code, with the user, the safe folder, the key,
+// the installed version and the installer taken from the environment instead of pkexec and the
+// system.
 
 #include <unistd.h>
 
-#include <cstdio>
 #include <cstdlib>
 #include <string>
 
@@ -17,11 +17,14 @@ std::string ambiente(const char* nome) {
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 3) return static_cast<int>(corvina::Desfecho::Argumentos);
-    const corvina::AmbienteDoInstalador a{::getuid(),
-                                          ambiente("CASA"),
-                                          ambiente("PASTA_SEGURA"),
-                                          ambiente("CHAVE"),
-                                          {ambiente("INSTALADOR")}};
-    return static_cast<int>(corvina::instalaAtualizacao(argv[1], argv[2], a));
+    if (argc != 4) return static_cast<int>(corvina::Desfecho::Argumentos);
+    const corvina::AmbienteDoInstalador a{
+        ::getuid(),
+        ::getgid(),
+        ambiente("CASA"),
+        ambiente("PASTA_SEGURA"),
+        ambiente("CHAVE"),
+        corvina::leVersaoDoPacote(ambiente("VERSAO_INSTALADA")).value_or(corvina::VersaoDoPacote{}),
+        {ambiente("INSTALADOR")}};
+    return static_cast<int>(corvina::instalaAtualizacao(argv[1], argv[2], argv[3], a));
 }

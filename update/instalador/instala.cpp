@@ -9,43 +9,26 @@
 #include <climits>
 #include <cstdio>
 #include <cstdlib>
-#include <memory>
+#include <limits>
 
 #include "players/pasta_privada.h"
 #include "update/assinatura.h"
+#include "update/instalador/caminho_seguro.h"
 
 namespace corvina {
 
 namespace {
-
-struct Descritor {
-    int fd = -1;
-    ~Descritor() {
-        if (fd >= 0) ::close(fd);
-    }
-};
 
 Desfecho recusa(Desfecho d, const char* porque) {
     std::fprintf(stderr, "corvina-instala: %s; nothing was installed\n", porque);
     return d;
 }
 
-std::string real(const std::string& caminho) {
-    const std::unique_ptr<char, decltype(&std::free)> r(::realpath(caminho.c_str(), nullptr),
-                                                        &std::free);
-    return r ? std::string(r.get()) : std::string();
-}
-
-bool abaixoDe(const std::string& caminho, const std::string& pasta) {
-    return !pasta.empty() && caminho.size() > pasta.size() + 1 &&
-           caminho.compare(0, pasta.size(), pasta) == 0 && caminho[pasta.size()] == '/';
-}
-
 // Copies at most `limite` bytes; false when the file holds more, or anything fails.
 bool copia(int de, const std::string& para, std::size_t limite) {
-    const Descritor d{
-        ::open(para.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600)};
-    if (d.fd < 0) return false;
+    const Descritor d(
+        ::open(para.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
+    if (!d) return false;
     char buf[65536];
     std::size_t total = 0;
     for (;;) {
@@ -56,13 +39,13 @@ bool copia(int de, const std::string& para, std::size_t limite) {
         total += static_cast<std::size_t>(n);
         if (total > limite) return false;
         for (ssize_t feito = 0; feito < n;) {
-            const ssize_t m = ::write(d.fd, buf + feito, static_cast<std::size_t>(n - feito));
+            const ssize_t m = ::write(d.fd(), buf + feito, static_cast<std::size_t>(n - feito));
             if (m < 0 && errno == EINTR) continue;
             if (m <= 0) return false;
             feito += m;
         }
     }
-    return ::fsync(d.fd) == 0;
+    return ::fsync(d.fd()) == 0;
 }
 
 // Runs the installer without a shell and with a plain environment; true when it succeeded.
@@ -89,32 +72,36 @@ bool roda(const std::vector<std::string>& comando, const std::string& pacote) {
 
 } // namespace
 
-Desfecho instalaAtualizacao(const std::string& pacote, const std::string& assinaturaBase64,
+std::optional<uid_t> usuarioDoPkexec(std::string_view texto) {
+    constexpr std::size_t kMaisDigitos = 10; // 4294967295
+    if (texto.empty() || texto.size() > kMaisDigitos) return std::nullopt;
+    unsigned long long n = 0;
+    for (const char c : texto) {
+        if (c < '0' || c > '9') return std::nullopt;
+        n = n * 10 + static_cast<unsigned>(c - '0');
+    }
+    // (uid_t)-1 is no user: it is how the system says "unchanged".
+    if (n == 0 || n >= std::numeric_limits<uid_t>::max()) return std::nullopt;
+    return static_cast<uid_t>(n);
+}
+
+Desfecho instalaAtualizacao(const std::string& pacote, std::string_view versao,
+                            const std::string& assinaturaBase64,
                             const AmbienteDoInstalador& ambiente) {
     if (pacote.empty() || pacote[0] != '/' || ambiente.instalador.empty() ||
         ambiente.instalador[0].empty() || ambiente.instalador[0][0] != '/')
         return recusa(Desfecho::Argumentos, "the package and the installer need absolute paths");
+    const std::optional<VersaoDoPacote> nova = leVersaoDoPacote(versao);
+    if (!nova) return recusa(Desfecho::Argumentos, "the version is not three numbers");
+    // A rollback to an older signed package is refused before anything is read.
+    if (*nova <= ambiente.instalada)
+        return recusa(Desfecho::NaoENova, "the package is not newer than the installed version");
 
-    // The package must be a file of the user's, below the user's home, reached without a link
-    // at its last step.
-    const std::size_t barra = pacote.rfind('/');
-    const std::string nome = pacote.substr(barra + 1);
-    const std::string pasta = real(barra == 0 ? "/" : pacote.substr(0, barra));
-    if (nome.empty() || nome == "." || nome == ".." ||
-        !abaixoDe(pasta + "/" + nome, real(ambiente.casa)))
-        return recusa(Desfecho::ForaDaCasa, "the package is not in the user's folders");
-    const Descritor dir{::open(pasta.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)};
-    const Descritor arquivo{
-        dir.fd < 0 ? -1
-                   : ::openat(dir.fd, nome.c_str(),
-                              O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC | O_NOCTTY)};
-    struct stat st {};
-    if (arquivo.fd < 0 || ::fstat(arquivo.fd, &st) != 0 || !S_ISREG(st.st_mode))
-        return recusa(Desfecho::NaoRegular, "the package is not a regular file");
-    if (st.st_uid != ambiente.usuario)
-        return recusa(Desfecho::DeOutroDono, "the package does not belong to the user");
-    if (static_cast<std::size_t>(st.st_size) > kMaiorInstalador)
-        return recusa(Desfecho::Grande, "the package is too large");
+    const Descritor arquivo =
+        abreArquivoDoUsuario(ambiente.casa, pacote, {ambiente.usuario, ambiente.grupo});
+    if (!arquivo)
+        return recusa(Desfecho::Inacessivel,
+                      "the package is not a regular file of the user's in the user's folders");
 
     // The copy lies where the user can't reach it; what is checked is what gets installed.
     ::mkdir(ambiente.pastaSegura.c_str(), 0700);
@@ -125,9 +112,9 @@ Desfecho instalaAtualizacao(const std::string& pacote, const std::string& assina
         return recusa(Desfecho::SemCopia, "no safe folder for the copy");
     const std::string copiaDoPacote = modelo + "/corvina.deb";
     Desfecho d = Desfecho::Instalado;
-    if (!copia(arquivo.fd, copiaDoPacote, kMaiorInstalador))
+    if (!copia(arquivo.fd(), copiaDoPacote, kMaiorInstalador))
         d = recusa(Desfecho::SemCopia, "the package could not be copied");
-    else if (!assinaturaConfere(copiaDoPacote, assinaturaBase64, ambiente.chavePublica))
+    else if (!assinaturaConfere(copiaDoPacote, versao, assinaturaBase64, ambiente.chavePublica))
         d = recusa(Desfecho::NaoAssinado, "the package's signature does not verify");
     else if (!roda(ambiente.instalador, copiaDoPacote))
         d = recusa(Desfecho::InstaladorFalhou, "the package installer failed");

@@ -60,8 +60,8 @@ FrmSobre::FrmSobre(QWidget* dono, Versao versao)
     command1_->setGeometry(347, 157, 73, 24);
     command1_->setDefault(true);
     connect(command1_, &QPushButton::clicked, this, &QDialog::accept);
-    abreFrmUp = [this](const QString& link, const QString& assinatura) {
-        FrmUp(this, link, assinatura).exec();
+    abreFrmUp = [this](const QString& link, const QString& versao, const QString& assinatura) {
+        FrmUp(this, link, versao, assinatura).exec();
     };
     if (dono) centraNoDono(*this);
 }
@@ -90,7 +90,7 @@ void FrmSobre::atualizar() {
                                      texto::kDesejaAtualizar + campoQ(resposta, 3) + texto::kAgora))
         return;
     // The line ends in the delimiter, so the URL carries no line break.
-    abreFrmUp(campoQ(resposta, 4), campoQ(resposta, 5));
+    abreFrmUp(campoQ(resposta, 4), campoQ(resposta, 3), campoQ(resposta, 5));
 }
 
 void FrmSobre::paintEvent(QPaintEvent*) {

@@ -20,7 +20,8 @@ class FrmSobre : public QDialog {
     // The Atualizar link: the check, the question, and FrmUp.
     void atualizar();
     // The update window, when the player accepts one; replaceable in tests.
-    std::function<void(const QString& link, const QString& assinatura)> abreFrmUp;
+    std::function<void(const QString& link, const QString& versao, const QString& assinatura)>
+        abreFrmUp;
     // Where the check asks, the build's server by default, and how long a silence it bears.
     QString servidor;
     double paciencia = 8;

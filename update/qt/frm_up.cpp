@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QDir>
+#include <QEventLoop>
 #include <QFile>
 #include <QLabel>
 #include <QProcess>
@@ -37,9 +38,27 @@ QString destinoDoInstalador() {
     return nome;
 }
 
-FrmUp::FrmUp(QWidget* dono, QString link, QString assinatura)
+// Runs the program to its end while the window's events run, so that the table stays painted
+// while pkexec asks for the password and the package is installed.
+int executaAteOFim(const QString& programa, const QStringList& argumentos) {
+    QProcess processo;
+    QEventLoop laco;
+    QObject::connect(&processo, &QProcess::finished, &laco, &QEventLoop::quit);
+    QObject::connect(&processo, &QProcess::errorOccurred, &laco, [&](QProcess::ProcessError e) {
+        if (e == QProcess::FailedToStart) laco.quit();
+    });
+    processo.setProcessChannelMode(QProcess::ForwardedChannels);
+    processo.start(programa, argumentos);
+    if (processo.state() != QProcess::NotRunning) laco.exec();
+    if (processo.exitStatus() != QProcess::NormalExit ||
+        processo.error() == QProcess::FailedToStart)
+        return -1;
+    return processo.exitCode();
+}
+
+FrmUp::FrmUp(QWidget* dono, QString link, QString versao, QString assinatura)
     : QDialog(dono, Qt::Tool | Qt::WindowTitleHint), link_(std::move(link)),
-      assinatura_(std::move(assinatura)) {
+      versao_(std::move(versao)), assinatura_(std::move(assinatura)) {
     setObjectName("FrmUp");
     setWindowTitle(" Lunaris Update");
     setFixedSize(307, 76); // 4605 by 1140 twips
@@ -54,9 +73,7 @@ FrmUp::FrmUp(QWidget* dono, QString link, QString assinatura)
     barra_->setObjectName("ProgressBarXP1");
     barra_->setGeometry(8, 50, 289, 14);
     barra_->setColor(kCorDaBarra);
-    iniciaInstalador = [](const QString& programa, const QStringList& argumentos) {
-        return QProcess::startDetached(programa, argumentos);
-    };
+    executaInstalador = executaAteOFim;
     escolheDestino = destinoDoInstalador;
     encerra = [] {
         std::fflush(nullptr);
@@ -87,13 +104,18 @@ void FrmUp::baixa() {
                      enderecos::kSite);
     // A first gate, so that the player hears of a bad file now: nothing the maker didn't sign
     // goes further. The helper checks again, as root, on a copy of its own.
-    if (!assinaturaConfere(destino_.toStdString(), assinatura_.toStdString(),
+    if (!assinaturaConfere(destino_.toStdString(), versao_.toStdString(), assinatura_.toStdString(),
                            chavePublica.toStdString())) {
         QFile::remove(destino_);
         return falha(texto::kSemDownload);
     }
     avisoDoSistema(this, QString("O ") + kTitulo + texto::kSeraFechado);
-    iniciaInstalador(enderecos::kPkexec, {enderecos::kAjudante, destino_, assinatura_});
+    const int codigo = executaInstalador(enderecos::kPkexec,
+                                         {enderecos::kAjudante, destino_, versao_, assinatura_});
+    if (codigo != 0) {
+        QFile::remove(destino_);
+        return falha(QString::fromUtf8(texto::recusaDoAjudante(codigo)));
+    }
     encerra();
     ocupada_ = false;
     accept(); // only where the end was replaced

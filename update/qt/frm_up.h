@@ -1,6 +1,7 @@
 #pragma once
 // FrmUp: downloads the newer installer with its bar, checks its signature, hands it to the
-// privileged helper that installs it, and ends the program. It can't be cancelled.
+// privileged helper that installs it, and ends the program once the helper has installed it.
+// It can't be cancelled. A refusal of the helper is told to the player, and the game goes on.
 
 #include <QDialog>
 #include <functional>
@@ -16,12 +17,13 @@ class ProgressBarXP;
 
 class FrmUp : public QDialog {
   public:
-    // `link` and `assinatura` are the installer's URL and its signature in the server's answer.
-    FrmUp(QWidget* dono, QString link, QString assinatura);
+    // The installer's URL, the version it declares and its signature, from the server's answer.
+    FrmUp(QWidget* dono, QString link, QString versao, QString assinatura);
 
-    // What the last steps do, replaceable in tests: start the installer (program and its
-    // arguments; false when it can't start), and end the run with exit code 1.
-    std::function<bool(const QString&, const QStringList&)> iniciaInstalador;
+    // What the last steps do, replaceable in tests: run the installer (program and its
+    // arguments) to its end, the window's events running, and give its exit code (-1 when it
+    // can't start); end the run with exit code 1.
+    std::function<int(const QString&, const QStringList&)> executaInstalador;
     std::function<void()> encerra;
     // Where the installer is put: a fresh file in the documents folder.
     std::function<QString()> escolheDestino;
@@ -41,7 +43,7 @@ class FrmUp : public QDialog {
   private:
     void baixa();
     void falha(const QString& mensagem);
-    QString link_, assinatura_, destino_;
+    QString link_, versao_, assinatura_, destino_;
     DL dl1_;
     ProgressBarXP* barra_;
     bool ativada_ = false;
