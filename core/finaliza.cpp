@@ -2,6 +2,7 @@
 
 #include "core/agrupa_mac.h"
 #include "core/ajustes.h"
+#include "core/lote_de_ajustes.h"
 #include "core/textos.h"
 
 namespace corvina {
@@ -52,8 +53,11 @@ void finaliza(Jogo& jogo, Lado quem) {
     if (g.pontosJog == kPontosDaPartida || g.pontosMac == kPontosDaPartida) {
         const std::string chave = chaveJogador(g.nomeJogador);
         const bool venceu = g.pontosJog == kPontosDaPartida;
-        somaAoRegistro(v, chave, venceu ? ajuste::kVitorias : ajuste::kDerrotas, 1);
-        somaAoRegistro(v, chave, ajuste::kSaldo, venceu ? 1 : -1);
+        {
+            const LoteDeAjustes lote(v); // the record moves as a whole
+            somaAoRegistro(v, chave, venceu ? ajuste::kVitorias : ajuste::kDerrotas, 1);
+            somaAoRegistro(v, chave, ajuste::kSaldo, venceu ? 1 : -1);
+        }
         g.pontosMac = 0;
         g.pontosJog = 0;
         v.abreJanela(Janela::FrmNome);

@@ -140,6 +140,9 @@ class VistaMesa {
                                  const std::string& padrao) = 0;
     virtual bool gravaAjuste(const std::string& chave, const std::string& nome,
                              const std::string& valor) = 0;
+    // Several values stored as one write (see Armazem::abreLote).
+    virtual void abreLote() {}
+    virtual void fechaLote() {}
 };
 
 // The awaitable of a pause.

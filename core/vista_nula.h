@@ -53,6 +53,8 @@ class VistaNula : public VistaMesa {
                          const std::string& padrao) override;
     bool gravaAjuste(const std::string& chave, const std::string& nome,
                      const std::string& valor) override;
+    void abreLote() override { armazem.abreLote(); }
+    void fechaLote() override { armazem.fechaLote(); }
 
     // The lines kept that begin with this text.
     std::vector<std::string> chamadasDe(const std::string& inicio) const;

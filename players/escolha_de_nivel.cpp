@@ -1,6 +1,7 @@
 #include "players/escolha_de_nivel.h"
 
 #include "core/ajustes.h"
+#include "core/lote_de_ajustes.h"
 
 namespace corvina {
 
@@ -15,6 +16,7 @@ void EscolhaDeNivel::confirma() {
     modulo_.nivel = nivel_;
     modulo_.distribuicaoJusta = justa_;
     const std::string chave = chaveJogador(modulo_.nomeJogador);
+    const LoteDeAjustes lote(armazem_);
     armazem_.grava(chave, ajuste::kNivel, std::string(chaveDoNivel(nivel_)));
     armazem_.grava(chave, ajuste::kDistribuicaoJusta, textoBooleano(justa_));
 }

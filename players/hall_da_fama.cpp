@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "core/ajustes.h"
+#include "core/lote_de_ajustes.h"
 #include "players/lista_de_jogadores.h"
 
 namespace corvina {
@@ -57,6 +58,7 @@ std::array<LinhaDoHall, kLinhasDoHall> montaHall(Armazem& a, const std::string& 
 }
 
 void zeraHall(Armazem& a) {
+    const LoteDeAjustes lote(a);
     for (const std::string& nome : leListaDeJogadores(a)) {
         const std::string chave = chaveJogador(nome);
         for (const char* valor : {ajuste::kSaldo, ajuste::kVitorias, ajuste::kDerrotas})

@@ -220,6 +220,51 @@ ValoresIni leIni(std::string_view texto) {
     return valores;
 }
 
+namespace {
+// The length of the UTF-8 sequence that starts at t[i], 0 when it is not a valid one (overlong
+// forms and surrogates included).
+std::size_t sequenciaUtf8(std::string_view t, std::size_t i) {
+    const auto b = [&](std::size_t k) { return static_cast<unsigned char>(t[i + k]); };
+    const auto segue = [&](std::size_t k) { return i + k < t.size() && (b(k) & 0xC0) == 0x80; };
+    const unsigned char c = b(0);
+    if (c < 0x80) return 1;
+    if (c >= 0xC2 && c <= 0xDF) return segue(1) ? 2 : 0;
+    if (c >= 0xE0 && c <= 0xEF) {
+        if (!segue(1) || !segue(2)) return 0;
+        if ((c == 0xE0 && b(1) < 0xA0) || (c == 0xED && b(1) >= 0xA0)) return 0;
+        return 3;
+    }
+    if (c >= 0xF0 && c <= 0xF4) {
+        if (!segue(1) || !segue(2) || !segue(3)) return 0;
+        if ((c == 0xF0 && b(1) < 0x90) || (c == 0xF4 && b(1) >= 0x90)) return 0;
+        return 4;
+    }
+    return 0;
+}
+} // namespace
+
+bool pareceIni(std::string_view texto) {
+    for (std::size_t i = 0; i < texto.size();) {
+        const auto c = static_cast<unsigned char>(texto[i]);
+        if ((c < 0x20 && c != '\t' && c != '\r' && c != '\n') || c == 0x7F) return false;
+        const std::size_t n = sequenciaUtf8(texto, i);
+        if (n == 0) return false;
+        i += n;
+    }
+    while (!texto.empty()) {
+        const std::size_t quebra = texto.find_first_of("\r\n");
+        std::string_view linha = texto.substr(0, quebra);
+        texto.remove_prefix(quebra == std::string_view::npos ? texto.size() : quebra + 1);
+        while (!linha.empty() && (linha.front() == ' ' || linha.front() == '\t'))
+            linha.remove_prefix(1);
+        if (linha.empty() || linha[0] == ';' || linha[0] == '#') continue;
+        if (linha[0] == '[' ? linha.find(']') == std::string_view::npos
+                            : linha.find('=') == std::string_view::npos || linha[0] == '=')
+            return false;
+    }
+    return true;
+}
+
 std::string escreveIni(const ValoresIni& valores) {
     std::map<std::string, std::string> secoes; // section: its lines
     for (const auto& [chave, valor] : valores) {

@@ -14,6 +14,11 @@ namespace corvina {
 using ValoresIni = std::map<std::string, std::string>;
 
 ValoresIni leIni(std::string_view texto);
+
+// Whether the text can be a settings file at all: UTF-8 without control characters other than
+// tabs and line ends, each line blank, a comment, a [section] or a name=value. Anything else is
+// a damaged file, to be set aside rather than read as a few stray values and overwritten.
+bool pareceIni(std::string_view texto);
 std::string escreveIni(const ValoresIni& valores);
 
 } // namespace corvina

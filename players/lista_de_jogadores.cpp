@@ -1,6 +1,7 @@
 #include "players/lista_de_jogadores.h"
 
 #include "core/ajustes.h"
+#include "core/lote_de_ajustes.h"
 #include "players/dobra_nome.h"
 
 namespace corvina {
@@ -25,6 +26,7 @@ int posicaoNaLista(Armazem& a, const std::string& nome) {
 }
 
 void tiraDaLista(Armazem& a, int n) {
+    const LoteDeAjustes lote(a);
     for (int seguinte = n + 1;; ++seguinte) {
         const std::string nome = a.le(chaveBase(), ajuste::jogador(seguinte), "");
         if (nome.empty()) {

@@ -1,6 +1,7 @@
 #include "players/opcoes.h"
 
 #include "core/ajustes.h"
+#include "core/lote_de_ajustes.h"
 
 namespace corvina {
 
@@ -13,6 +14,7 @@ void aceitaOpcoes(Module1& m, Armazem& a, const Opcoes& o) {
     m.tocarMusica = o.tocarMusica;
     m.animarCartas = o.animarCartas;
     const std::string base = chaveBase();
+    const LoteDeAjustes lote(a);
     a.grava(base, ajuste::kTocarSom, textoBooleano(o.tocarSom));
     a.grava(base, ajuste::kTocarMusica, textoBooleano(o.tocarMusica));
     a.grava(base, ajuste::kAnimarCartas, textoBooleano(o.animarCartas));

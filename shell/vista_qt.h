@@ -52,6 +52,8 @@ class VistaQt : public VistaDeCena {
                          const std::string& padrao) override;
     bool gravaAjuste(const std::string& chave, const std::string& nome,
                      const std::string& valor) override;
+    void abreLote() override { settings_.abreLote(); }
+    void fechaLote() override { settings_.fechaLote(); }
 
   protected:
     void mudou() override;

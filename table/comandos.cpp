@@ -2,6 +2,7 @@
 
 #include "core/ajustes.h"
 #include "core/ativacao.h"
+#include "core/lote_de_ajustes.h"
 #include "core/novojogo.h"
 #include "core/pecas.h"
 #include "core/textos.h"
@@ -133,6 +134,7 @@ void Form_QueryUnload(Jogo& jogo) {
     VistaMesa& v = jogo.vista;
     const Module1& g = jogo.modulo;
     const std::string base = chaveBase();
+    const LoteDeAjustes lote(v);
     v.gravaAjuste(base, ajuste::kTipoCarta, std::to_string(g.tipoCarta));
     v.gravaAjuste(base, ajuste::kVelocidade, std::to_string(g.velocidade));
     v.gravaAjuste(base, ajuste::kTocarSom, textoBooleano(g.tocarSom));

@@ -23,8 +23,9 @@ inline constexpr std::size_t kMaiorArquivo = 1024 * 1024;
 bool leFormato(QIODevice& dispositivo, QSettings::SettingsMap& mapa) {
     const QByteArray conteudo = dispositivo.read(kMaiorArquivo + 1);
     if (conteudo.size() > static_cast<qsizetype>(kMaiorArquivo)) return false;
-    for (const auto& [chave, valor] :
-         leIni(std::string_view(conteudo.constData(), conteudo.size())))
+    const std::string_view texto(conteudo.constData(), static_cast<std::size_t>(conteudo.size()));
+    if (!pareceIni(texto)) return false;
+    for (const auto& [chave, valor] : leIni(texto))
         mapa.insert(QString::fromStdString(chave), QString::fromStdString(valor));
     return true;
 }
@@ -57,11 +58,22 @@ QString caminho(const std::string& chave, const std::string& nome) {
     return QString::fromStdString(l.grupo + "/" + l.nome);
 }
 
-// Keeps what a person may still recover under a name of its own.
+// Damaged files kept beside the store, the newest first: a file that keeps getting damaged
+// can't fill the disk.
+inline constexpr int kCopiasDanificadas = 3;
+
+QString copiaDanificada(const QString& arquivo, int n) {
+    return arquivo + ".danificado" + (n > 1 ? QString::number(n) : QString());
+}
+
+// Keeps what a person may still recover under a name of its own; the oldest of the copies
+// already kept makes room.
 bool poeDeLado(const QString& arquivo) {
-    QString destino = arquivo + ".danificado";
-    for (int n = 2; QFile::exists(destino); ++n)
-        destino = arquivo + ".danificado" + QString::number(n);
+    QFile::remove(copiaDanificada(arquivo, kCopiasDanificadas));
+    for (int n = kCopiasDanificadas - 1; n >= 1; --n)
+        if (QFile::exists(copiaDanificada(arquivo, n)))
+            QFile::rename(copiaDanificada(arquivo, n), copiaDanificada(arquivo, n + 1));
+    const QString destino = copiaDanificada(arquivo, 1);
     if (!QFile::rename(arquivo, destino)) return false;
     std::fprintf(stderr, "corvina: %s could not be read as settings; it was kept as %s\n",
                  qPrintable(arquivo), qPrintable(destino));
@@ -115,8 +127,18 @@ bool Settings::grava(const std::string& chave, const std::string& nome, const st
         return true;
     }
     s_->setValue(caminho(chave, nome), QString::fromStdString(valor));
+    if (lote_ > 0) {
+        pendente_ = true;
+        return true;
+    }
     s_->sync();
     return s_->status() == QSettings::NoError;
+}
+
+void Settings::fechaLote() {
+    if (lote_ == 0 || --lote_ > 0 || !pendente_) return;
+    pendente_ = false;
+    if (s_) s_->sync();
 }
 
 } // namespace corvina

@@ -30,6 +30,10 @@ class Settings : public Armazem {
     // value and the game goes on.
     bool grava(const std::string& chave, const std::string& nome,
                const std::string& valor) override;
+    // The file is rewritten once, atomically (a new file renamed over the old), at the end of
+    // the outermost batch.
+    void abreLote() override { ++lote_; }
+    void fechaLote() override;
 
     // Whether the values reach the disk (false: kept for this run only).
     bool persistente() const { return s_ != nullptr; }
@@ -38,6 +42,8 @@ class Settings : public Armazem {
     QString arquivo_;
     std::unique_ptr<QSettings> s_;
     QMap<QString, QString> soNestaVez_; // by the same paths as in the file
+    int lote_ = 0;                      // batches open
+    bool pendente_ = false;             // values set since the file was last written
 };
 
 } // namespace corvina

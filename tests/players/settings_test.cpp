@@ -6,10 +6,20 @@
 #include <fstream>
 #include <iterator>
 #include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
 
+#include <signal.h>
+#include <sys/wait.h>
+
+#include <chrono>
+#include <random>
+#include <set>
+
 #include "core/ajustes.h"
+#include "core/lote_de_ajustes.h"
 #include "players/highcor.h"
+#include "players/lista_de_jogadores.h"
 #include "players/qt/settings.h"
 
 namespace corvina {
@@ -196,6 +206,89 @@ TEST_F(SettingsTest, ASerializedValueIsNeverDeserialized) {
     EXPECT_EQ(lido.rfind("@Variant(", 0), 0u) << "the text itself, escapes read as escapes";
     EXPECT_EQ(lido.back(), ')');
     EXPECT_EQ(s.le(chaveBase(), "Velocidade", "6"), "9");
+}
+
+// Bytes that are no settings file are kept aside, byte for byte, before a new store is begun;
+// of a store damaged again and again the three newest copies stay.
+TEST_F(SettingsTest, ADamagedStoreIsSetAsideAndTheNewestCopiesAreKept) {
+    std::mt19937 sorte(23);
+    std::vector<QByteArray> estragos;
+    for (int vez = 0; vez < 4; ++vez) {
+        QByteArray lixo(500 * 1024, '\0');
+        for (char& c : lixo) c = static_cast<char>(sorte());
+        if (vez == 3) lixo = "[corvina]\njogador1=Ana\nisto não é um ajuste\n";
+        estragos.push_back(lixo);
+        QFile f(arquivo());
+        ASSERT_TRUE(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        f.write(lixo);
+        f.close();
+        Settings s(arquivo());
+        EXPECT_TRUE(s.persistente());
+        EXPECT_EQ(s.le(chaveBase(), "Jogador1", "?"), "?") << vez;
+        ASSERT_TRUE(s.grava(chaveBase(), "Velocidade", "3"));
+    }
+    const auto conteudo = [](const QString& nome) {
+        QFile f(nome);
+        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("(none)");
+    };
+    EXPECT_EQ(conteudo(arquivo() + ".danificado"), estragos[3]);
+    EXPECT_EQ(conteudo(arquivo() + ".danificado2"), estragos[2]);
+    EXPECT_EQ(conteudo(arquivo() + ".danificado3"), estragos[1]);
+    EXPECT_FALSE(QFileInfo::exists(arquivo() + ".danificado4"));
+    EXPECT_EQ(Settings(arquivo()).le(chaveBase(), "Velocidade", "6"), "3");
+}
+
+// The game killed at any moment of a deletion from a long list: the store holds the list as it
+// was or as it became, never a name twice nor one lost.
+TEST_F(SettingsTest, AListChangeKilledInTheMiddleIsAllOrNothing) {
+    constexpr int kJogadores = 3000, kTentativas = 16;
+    std::vector<std::string> lista;
+    {
+        Settings s(arquivo());
+        const LoteDeAjustes lote(s);
+        for (int n = 1; n <= kJogadores; ++n) {
+            lista.push_back("J" + std::to_string(n));
+            s.grava(chaveBase(), ajuste::jogador(n), lista.back());
+        }
+    }
+    const auto todos = [&] {
+        std::vector<std::string> nomes;
+        Settings s(arquivo());
+        for (int n = 1;; ++n) {
+            std::string nome = s.le(chaveBase(), ajuste::jogador(n), "");
+            if (nome.empty()) return nomes;
+            nomes.push_back(std::move(nome));
+        }
+    };
+    // A deletion in a process of its own, killed after `espera` (or left to end).
+    const auto apaga = [&](std::chrono::microseconds espera, bool mata) {
+        const pid_t filho = ::fork();
+        if (filho == 0) {
+            Settings s(arquivo());
+            tiraDaLista(s, 1);
+            ::_exit(0);
+        }
+        const auto inicio = std::chrono::steady_clock::now();
+        if (mata) {
+            std::this_thread::sleep_for(espera);
+            ::kill(filho, SIGKILL);
+        }
+        int estado = 0;
+        ::waitpid(filho, &estado, 0);
+        return std::chrono::steady_clock::now() - inicio;
+    };
+    const auto inteira = std::chrono::duration_cast<std::chrono::microseconds>(apaga({}, false));
+    lista.erase(lista.begin());
+    ASSERT_EQ(todos(), lista);
+    std::mt19937 sorte(5);
+    for (int i = 0; i < kTentativas; ++i) {
+        apaga(std::chrono::microseconds(
+                  std::uniform_int_distribution<long>(0, inteira.count() * 5 / 4)(sorte)),
+              true);
+        const std::vector<std::string> agora = todos();
+        if (agora.size() != lista.size()) lista.erase(lista.begin());
+        ASSERT_EQ(agora, lista) << "killed on try " << i;
+    }
 }
 
 } // namespace
