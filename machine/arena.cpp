@@ -6,6 +6,7 @@
 #include <mutex>
 #include <optional>
 #include <stdexcept>
+#include <system_error>
 #include <thread>
 
 #include "core/novojogo.h"
@@ -150,13 +151,19 @@ ResultadoArena arena(const PedidoArena& p, const std::atomic<bool>* parar,
         }
     };
     std::vector<std::thread> outras;
-    for (std::size_t k = 1; k < tempos.size(); ++k)
-        outras.emplace_back(trabalha, std::ref(tempos[k]));
+    for (std::size_t k = 1; k < tempos.size(); ++k) {
+        try {
+            outras.emplace_back(trabalha, std::ref(tempos[k]));
+        } catch (const std::system_error&) {
+            break; // no more threads to be had: those that started share the pairs
+        }
+    }
     trabalha(tempos[0]);
     for (std::thread& th : outras) th.join();
     if (erro) std::rethrow_exception(erro);
 
     ResultadoArena r;
+    r.threads = static_cast<int>(outras.size()) + 1;
     std::vector<Vencedor> comAFrente, comBFrente;
     for (const Par& par : pares) {
         if (!par.feito) {

@@ -34,6 +34,7 @@ struct ResultadoArena {
     double shareA = 0, ciLow = 0, ciHigh = 0; // of decided hands; 95%, over pairs
     double msMeanA = 0, msP99A = 0, msMeanB = 0, msP99B = 0;
     bool interrompida = false;
+    int threads = 0; // that ran: fewer than asked when the system would start no more
 };
 
 // `parar` ends it early with the figures of the pairs played; `progresso` hears of every pair

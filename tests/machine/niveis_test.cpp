@@ -3,6 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include <algorithm>
 
 #include "apoio/maos.h"
@@ -194,6 +198,31 @@ TEST(Arena, RangesAndThreadsAddUpToTheWholeRun) {
     EXPECT_EQ(inicio.maosA + fim.maosA, todo.maosA);
     EXPECT_EQ(inicio.maosB + fim.maosB, todo.maosB);
     EXPECT_EQ(inicio.semVencedor + fim.semVencedor, todo.semVencedor);
+}
+
+// With a limit on processes that lets no thread start (as `prlimit --nproc` sets it), the arena
+// plays every pair on the thread it was called from, with the same figures.
+TEST(Arena, ThreadsThatCantStartLeaveTheWorkToTheCaller) {
+    PedidoArena p;
+    p.a = TipoNivel::Esperto;
+    p.b = TipoNivel::Classico;
+    p.semente = 11;
+    p.pares = 6;
+    const ResultadoArena sozinha = arena(p);
+    const pid_t filho = ::fork();
+    if (filho == 0) {
+        // Root is above the limit: the child gives its rights up first.
+        if (::getuid() == 0 && (::setgid(65534) != 0 || ::setuid(65534) != 0)) ::_exit(3);
+        const rlimit um{1, 1};
+        if (::setrlimit(RLIMIT_NPROC, &um) != 0) ::_exit(3);
+        p.threads = 256;
+        const ResultadoArena r = arena(p);
+        ::_exit(r.threads == 1 && r.maosA == sozinha.maosA && r.maosB == sozinha.maosB ? 0 : 1);
+    }
+    int estado = 0;
+    ASSERT_EQ(::waitpid(filho, &estado, 0), filho);
+    ASSERT_TRUE(WIFEXITED(estado)) << "the arena ended by signal " << WTERMSIG(estado);
+    EXPECT_EQ(WEXITSTATUS(estado), 0) << "3: the limit could not be set; 1: other figures";
 }
 
 TEST(Arena, AnInterruptAnswersForThePairsPlayed) {
