@@ -4,13 +4,26 @@
 
 namespace corvina {
 
-void ControleDeDownload::inicia(double agora, double limite) {
+void ControleDeDownload::inicia(double agora, double limite, LimitesDoTransporte transporte) {
     limite_ = limite;
     ultimoSinal_ = agora;
+    transporte_ = transporte;
+    inicio_ = inicioDaJanela_ = agora;
+    lidos_ = lidosNoInicioDaJanela_ = 0;
+}
+
+bool ControleDeDownload::transporteEsgotado(double agora) {
+    if (transporte_.prazoTotal > 0 && agora - inicio_ > transporte_.prazoTotal) return true;
+    if (transporte_.janela <= 0 || agora - inicioDaJanela_ < transporte_.janela) return false;
+    if (lidos_ - lidosNoInicioDaJanela_ < transporte_.bytesPorJanela) return true;
+    inicioDaJanela_ = agora;
+    lidosNoInicioDaJanela_ = lidos_;
+    return false;
 }
 
 void ControleDeDownload::progresso(std::int64_t lidos, std::int64_t total, double agora) {
     if (abortado_) return; // a read given up is not heard again
+    lidos_ = lidos;
     // 100 / (total / read), to the nearest whole number, halves to even; with nothing read or
     // no total the division fails and the percentage stays.
     if (lidos > 0 && total > 0)

@@ -6,8 +6,11 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <chrono>
+#include <thread>
 
 #include "servidor_https.h"
 #include "update/qt/dl.h"
@@ -181,6 +184,61 @@ TEST_F(Download, AnEndlessAnswerIsCutShort) {
     EXPECT_FALSE(QFile::exists(destino("x.deb")));
     EXPECT_EQ(QDir(pasta.path()).entryList(QDir::Files | QDir::Hidden), QStringList())
         << "nothing of it stays on the disk";
+}
+
+// A server that sends a byte now and then is never silent long enough for the watchdog; the
+// network layer gives it up by its rate, or by the time of the whole read, and the read ends
+// failed with nothing left on the disk.
+TEST_F(Download, ACrawlingServerIsBrokenOffByItsRateOrItsTime) {
+    servidor.caminhos["/gota.deb"] = Resposta::gotejando(QByteArray(64 * 1024, 'g'), 64, 50);
+    servidor.caminhos["/gota.txt"] = Resposta::gotejando("!*!a!*!1.0.0!*!u!*!", 1, 100);
+    QElapsedTimer relogio;
+    relogio.start();
+    DL arquivo;
+    arquivo.limitesDoArquivo = {0, 0.5, 4 * 1024}; // 1.3 KB/s against 8 KB/s asked
+    EXPECT_EQ(arquivo.Download(servidor.url("/gota.deb"), destino("g.deb"), {}, "Id", 2),
+              Situacao::Falhou);
+    EXPECT_LT(relogio.elapsed(), 1500);
+    EXPECT_FALSE(arquivo.abortado()) << "not the watchdog: the server was never silent";
+    DL texto;
+    texto.limitesDoTexto = {0.6, 0, 0}; // two seconds of answer against 0.6 allowed
+    relogio.restart();
+    EXPECT_EQ(texto.GetConteudo(servidor.url("/gota.txt"), "Id", 2), "");
+    EXPECT_LT(relogio.elapsed(), 1500);
+    EXPECT_EQ(QDir(pasta.path()).entryList(QDir::Files | QDir::Hidden), QStringList());
+}
+
+// The peak of the process's resident memory, in KiB, since the last reset.
+long picoDeMemoria() {
+    QFile f("/proc/self/status");
+    if (!f.open(QIODevice::ReadOnly)) return -1;
+    for (const QByteArray& linha : f.readAll().split('\n'))
+        if (linha.startsWith("VmHWM:")) return linha.mid(6).trimmed().split(' ').value(0).toLong();
+    return -1;
+}
+bool zeraPicoDeMemoria() {
+    QFile f("/proc/self/clear_refs");
+    return f.open(QIODevice::WriteOnly) && f.write("5") == 1;
+}
+
+// A server that sends as fast as the loopback carries, while the window is busy for a second:
+// what the network holds for the game stays small; the file still arrives whole.
+TEST(DownloadRapido, WhatIsInFlightStaysSmallWhileTheWindowIsBusy) {
+#if defined(__SANITIZE_ADDRESS__)
+    GTEST_SKIP() << "the sanitizer keeps freed memory in quarantine: the peak would measure it";
+#endif
+    constexpr qint64 kTamanho = 96 * 1024 * 1024;
+    teste::ServidorEmOutraThread servidor({{"/grande.deb", Resposta::jorroDe(kTamanho)}});
+    ServidorHttps::confiaNoCertificado();
+    QTemporaryDir pasta;
+    DL dl;
+    QTimer::singleShot(100, [] { std::this_thread::sleep_for(std::chrono::seconds(1)); });
+    if (!zeraPicoDeMemoria()) GTEST_SKIP() << "no reset of the memory's peak here";
+    const long antes = picoDeMemoria();
+    EXPECT_EQ(dl.Download(servidor.url("/grande.deb"), pasta.filePath("g.deb"), {}, "Id", 30),
+              Situacao::Completo);
+    EXPECT_EQ(QFileInfo(pasta.filePath("g.deb")).size(), kTamanho);
+    EXPECT_LT(picoDeMemoria() - antes, 24 * 1024) << "KiB more at the peak";
 }
 
 // The bar's blocks, read off a rendered picture: the first block from the start, the last

@@ -21,7 +21,35 @@ void goteja(QSslSocket* s, QByteArray corpo, int pedaco, int ms) {
     s->write(corpo.left(pedaco));
     QTimer::singleShot(ms, s, [=] { goteja(s, corpo.mid(pedaco), pedaco, ms); });
 }
+// Writes `falta` bytes as fast as the connection takes them, keeping little in our own buffer.
+void jorra(QSslSocket* s, qint64 falta) {
+    constexpr qint64 kPedaco = 64 * 1024, kNoBuffer = 256 * 1024;
+    const QByteArray pedaco(kPedaco, 'j');
+    auto resta = std::make_shared<qint64>(falta);
+    const auto enche = [=] {
+        while (*resta > 0 && s->encryptedBytesToWrite() + s->bytesToWrite() < kNoBuffer) {
+            const qint64 n = std::min(*resta, kPedaco);
+            s->write(pedaco.constData(), n);
+            *resta -= n;
+        }
+        if (*resta == 0 && s->state() == QAbstractSocket::ConnectedState)
+            s->disconnectFromHost(); // once what is buffered has gone
+    };
+    QObject::connect(s, &QSslSocket::encryptedBytesWritten, s, enche);
+    enche();
+}
 } // namespace
+
+ServidorEmOutraThread::ServidorEmOutraThread(std::map<QString, Resposta> caminhos) {
+    servidor_.caminhos = std::move(caminhos);
+    servidor_.passaPara(&thread_);
+    thread_.start();
+}
+
+ServidorEmOutraThread::~ServidorEmOutraThread() {
+    thread_.quit();
+    thread_.wait();
+}
 
 ServidorHttps::ServidorHttps() {
     QSslConfiguration conf = QSslConfiguration::defaultConfiguration();
@@ -72,10 +100,13 @@ void ServidorHttps::atende(QSslSocket* s, const QByteArray& pedido) {
         "HTTP/1.1 " + QByteArray::number(r.status) + " X\r\nConnection: close\r\n";
     if (r.semFim == 0 && r.comTamanho)
         cabecalho += "Content-Length: " +
-                     QByteArray::number(r.tamanhoDito >= 0 ? r.tamanhoDito : r.corpo.size()) +
+                     QByteArray::number(r.tamanhoDito >= 0 ? r.tamanhoDito
+                                        : r.jorro > 0      ? r.jorro
+                                                           : r.corpo.size()) +
                      "\r\n";
     s->write(cabecalho + "\r\n");
     if (r.semFim > 0) return goteja(s, QByteArray(r.semFim, 'x'), 16 * 1024, 1);
+    if (r.jorro > 0) return jorra(s, r.jorro);
     if (r.gotejaMs > 0) return goteja(s, r.corpo, r.pedaco, r.gotejaMs);
     s->write(r.corpo);
     s->disconnectFromHost();

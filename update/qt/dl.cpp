@@ -48,6 +48,7 @@ void DL::inicia(const QString& url, const QString& sID, const QString& destino, 
     pedido.setAttribute(QNetworkRequest::CacheLoadControlAttribute,
                         QNetworkRequest::AlwaysNetwork); // read anew, past any cache
     QNetworkReply* r = rede_.get(pedido);
+    r->setReadBufferSize(kBufferDeLeitura);
     leituras_[sID] = r;
 
     // The body goes to a temporary file beside the destination, renamed into place at the end.
@@ -58,6 +59,11 @@ void DL::inicia(const QString& url, const QString& sID, const QString& destino, 
         // A folder that can't be written, a disk that fills up, an answer that never ends.
         if (!aberto || arquivo->write(pedaco) != pedaco.size() || arquivo->size() > limite)
             r->abort();
+    });
+    // A length told beyond the limit is refused before its first byte.
+    connect(r, &QNetworkReply::metaDataChanged, this, [=] {
+        const QVariant dito = r->header(QNetworkRequest::ContentLengthHeader);
+        if (dito.isValid() && dito.toLongLong() > limite) r->abort();
     });
     connect(r, &QNetworkReply::downloadProgress, this, [=, this](qint64 lidos, qint64 total) {
         // A total the server didn't tell stays unknown, also when the network layer works it
@@ -89,7 +95,12 @@ bool DL::aguarda(const std::function<void(int)>& aCadaVolta) {
     QTimer volta;
     connect(&volta, &QTimer::timeout, &laco, [&] {
         if (aCadaVolta) aCadaVolta(controle_.percentual());
-        if (controle_.expirou(agora())) laco.quit();
+        if (controle_.expirou(agora())) return laco.quit();
+        if (controle_.transporteEsgotado(agora())) {
+            // Broken off as the network would break it: the read ends failed, its file gone.
+            const auto leituras = leituras_;
+            for (const auto& [id, r] : leituras) r->abort();
+        }
     });
     volta.start(kVoltaMs);
     esperando_ = &laco;
@@ -102,7 +113,7 @@ QString DL::GetConteudo(const QString& url, const QString& sID, double timeout) 
     const QString pasta = pastaTemporaria();
     const QString destino = QDir(pasta).filePath("temp01.dat");
     QFile::remove(destino); // what an earlier run left is not this answer
-    controle_.inicia(agora(), timeout);
+    controle_.inicia(agora(), timeout, limitesDoTexto);
     controle_.zeraSituacao();
     if (pasta.isEmpty()) { // nowhere private to put the answer: no answer
         controle_.falhou();
@@ -119,7 +130,7 @@ QString DL::GetConteudo(const QString& url, const QString& sID, double timeout) 
 Situacao DL::Download(const QString& url, const QString& destino,
                       const std::function<void(int)>& objprogress, const QString& sID,
                       double timeout) {
-    controle_.inicia(agora(), timeout);
+    controle_.inicia(agora(), timeout, limitesDoArquivo);
     inicia(url, sID, destino, maiorArquivo);
     if (!aguarda(objprogress)) return Situacao::Falhou;
     if (objprogress) objprogress(controle_.percentual());

@@ -41,6 +41,13 @@ class DL : public QObject {
     static constexpr qint64 kMaiorTexto = 64 * 1024;
     // A file longer than this is no installer: the signature check would refuse it anyway.
     qint64 maiorArquivo = static_cast<qint64>(kMaiorInstalador);
+    // What a read may take, whatever the watchdog: a text answer is short or nothing; an
+    // installer of a few megabytes comes in minutes, at a few kilobytes a second at worst.
+    LimitesDoTransporte limitesDoTexto{30, 0, 0};
+    LimitesDoTransporte limitesDoArquivo{30 * 60, 30, 30 * 4 * 1024};
+    // Bytes the network may hold for the game before it reads them: what is in flight stays
+    // this small however fast the server and however busy the window.
+    static constexpr qint64 kBufferDeLeitura = 256 * 1024;
 
   private:
     // Starts the read of `url` into `arquivo`; the file is renamed to `destino` at the end.
