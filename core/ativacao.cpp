@@ -1,5 +1,7 @@
 #include "core/ativacao.h"
 
+#include <algorithm>
+
 #include "core/ajustes.h"
 #include "core/novojogo.h"
 #include "core/pecas.h"
@@ -14,8 +16,10 @@ void leConfig(Jogo& jogo) {
     VistaMesa& v = jogo.vista;
     Module1& g = jogo.modulo;
     const std::string base = chaveBase();
-    g.tipoCarta =
-        static_cast<int16>(numeroDoTexto(v.leAjuste(base, ajuste::kTipocarta, kTipoCartaPadrao)));
+    // A back beyond the eight there are, however large the stored number, is the nearest one;
+    // 0 (absent or no number) becomes the first.
+    g.tipoCarta = static_cast<int16>(std::clamp(
+        numeroDoTexto(v.leAjuste(base, ajuste::kTipocarta, kTipoCartaPadrao)), 0L, long{kVersos}));
     const long velocidade =
         numeroDoTexto(v.leAjuste(base, ajuste::kVelocidade, std::to_string(kVelocidadePadrao)));
     // Only what the options window can set: another value would make a flight last minutes.

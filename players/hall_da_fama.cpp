@@ -1,5 +1,6 @@
 #include "players/hall_da_fama.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <limits>
 
@@ -10,13 +11,12 @@
 namespace corvina {
 
 namespace {
-// The balance goes through a 16-bit number; one that doesn't fit is not taken and counts 0.
+// The balance goes through a 16-bit number: one beyond it stands at its end (32767 or -32768),
+// so that a player of a stored 40,000 still heads the hall rather than counting 0.
 std::int16_t saldoDe(const std::string& texto) {
-    const long v = numeroDoTexto(texto);
-    if (v < std::numeric_limits<std::int16_t>::min() ||
-        v > std::numeric_limits<std::int16_t>::max())
-        return 0;
-    return static_cast<std::int16_t>(v);
+    return static_cast<std::int16_t>(std::clamp<long>(numeroDoTexto(texto),
+                                                      std::numeric_limits<std::int16_t>::min(),
+                                                      std::numeric_limits<std::int16_t>::max()));
 }
 } // namespace
 

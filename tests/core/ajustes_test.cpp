@@ -38,6 +38,12 @@ TEST(LeConfig, DefaultsAndStoredValues) {
     a.grava(chaveBase(), "TocarSom", "talvez");
     leConfig(t.jogo);
     EXPECT_EQ(t.jogo.modulo.tipoCarta, 1) << "a stored 0 gives back 1";
+    for (const auto& [guardado, verso] :
+         {std::pair{"99999999999", 8}, {"65539", 8}, {"-5", 1}, {"7", 7}}) {
+        a.grava(chaveBase(), "TipoCarta", guardado);
+        leConfig(t.jogo);
+        EXPECT_EQ(t.jogo.modulo.tipoCarta, verso) << guardado << ": one of the eight backs";
+    }
     EXPECT_TRUE(t.jogo.modulo.animarCartas) << "stored, never restored";
     EXPECT_FALSE(t.jogo.modulo.tocarSom) << "a text that isn't a Boolean leaves it off";
 

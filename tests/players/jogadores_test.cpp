@@ -319,10 +319,10 @@ TEST_F(Hall, RowsGoByBalanceThenByPlaceInTheList) {
          {{"ana", "2", "", ""}, {"Ana", "1", "", ""}},
          "Ana",
          {"ana 2", "Ana 1 verde", ". .", ". .", ". .", ". ."}},
-        {"a balance beyond 16 bits counts 0",
-         {{"A", "40000", "", ""}, {"B", "-2", "", ""}, {"C", "1", "", ""}},
+        {"a balance beyond 16 bits stands at their end",
+         {{"A", "40000", "", ""}, {"B", "-2", "", ""}, {"C", "1", "", ""}, {"D", "-99999", "", ""}},
          "",
-         {"C 1", "A 0", "B -2", ". .", ". .", ". ."}},
+         {"A 32767", "C 1", "B -2", "D -32768", ". .", ". ."}},
     };
     for (const auto& c : casos)
         EXPECT_EQ(nomes(montaHall(c.jogadores, c.nomeJogador)), c.esperado) << c.caso;
