@@ -80,12 +80,12 @@ TEST(Comandos, ACancelledNewMatchKeepsTheHandAndOnlyTheToolbarCanCancel) {
     EXPECT_EQ(t.jogo.mesa.qtdBaralho, 2) << "the hand in progress goes on";
 }
 
-TEST(Comandos, ABackThatDoesntExistKeepsThePictureAndTheKeysWrap) {
+TEST(Comandos, ABackBeyondTheEightIsTheLastAndTheKeysWrap) {
     MesaDeCena t;
     t.vista.armazem.grava(chaveBase(), "TipoCarta", "99");
     Form_Load(t.jogo);
-    EXPECT_EQ(t.jogo.modulo.tipoCarta, 99) << "not checked, as stored";
-    EXPECT_EQ(t.sprite(peca::kCostas2).Picture, figuraDoVerso(4)) << "the back it was drawn with";
+    EXPECT_EQ(t.jogo.modulo.tipoCarta, 8);
+    EXPECT_EQ(t.sprite(peca::kCostas2).Picture, figuraDoVerso(8));
     Form_KeyDown(t.jogo, 119, 0); // F8: above 8 wraps to 1
     EXPECT_EQ(t.jogo.modulo.tipoCarta, 1);
     EXPECT_EQ(t.sprite(peca::kCostas2).Picture, figuraDoVerso(1));

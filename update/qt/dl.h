@@ -44,7 +44,7 @@ class DL : public QObject {
     // What a read may take, whatever the watchdog: a text answer is short or nothing; an
     // installer of a few megabytes comes in minutes, at a few kilobytes a second at worst.
     LimitesDoTransporte limitesDoTexto{30, 0, 0};
-    LimitesDoTransporte limitesDoArquivo{30 * 60, 30, 30 * 4 * 1024};
+    LimitesDoTransporte limitesDoArquivo{10 * 60, 30, 30 * 4 * 1024};
     // Bytes the network may hold for the game before it reads them: what is in flight stays
     // this small however fast the server and however busy the window.
     static constexpr qint64 kBufferDeLeitura = 256 * 1024;
