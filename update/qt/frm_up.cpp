@@ -38,6 +38,7 @@ QString destinoDoInstalador() {
     return nome;
 }
 
+namespace {
 // Runs the program to its end while the window's events run, so that the table stays painted
 // while pkexec asks for the password and the package is installed.
 int executaAteOFim(const QString& programa, const QStringList& argumentos) {
@@ -55,6 +56,7 @@ int executaAteOFim(const QString& programa, const QStringList& argumentos) {
         return -1;
     return processo.exitCode();
 }
+} // namespace
 
 FrmUp::FrmUp(QWidget* dono, QString link, QString versao, QString assinatura)
     : QDialog(dono, Qt::Tool | Qt::WindowTitleHint), link_(std::move(link)),
