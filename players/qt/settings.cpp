@@ -7,8 +7,8 @@
 #include <sys/stat.h>
 
 #include "core/ajustes.h"
+#include "midia/arquivos/arquivo_regular.h"
 #include "midia/pastas.h"
-#include "players/arquivo_regular.h"
 #include "players/ini.h"
 #include "players/lugar_do_ajuste.h"
 

@@ -11,8 +11,8 @@
 #include <QTimer>
 #include <limits>
 
+#include "midia/arquivos/arquivo_regular.h"
 #include "midia/pastas.h"
-#include "players/arquivo_regular.h"
 #include "update/resposta.h"
 
 namespace corvina {

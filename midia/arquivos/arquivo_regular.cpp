@@ -1,4 +1,4 @@
-#include "players/arquivo_regular.h"
+#include "midia/arquivos/arquivo_regular.h"
 
 #include <cerrno>
 #include <fcntl.h>

@@ -1,4 +1,4 @@
-#include "players/pasta_privada.h"
+#include "midia/arquivos/pasta_privada.h"
 
 #include <sys/stat.h>
 #include <unistd.h>
