@@ -57,6 +57,10 @@ void finaliza(Jogo& jogo, Lado quem) {
             const LoteDeAjustes lote(v); // the record moves as a whole
             somaAoRegistro(v, chave, venceu ? ajuste::kVitorias : ajuste::kDerrotas, 1);
             somaAoRegistro(v, chave, ajuste::kSaldo, venceu ? 1 : -1);
+            // Fair is what the deal was: only Clássico may exchange the hands.
+            v.partidaTerminada({g.nomeJogador, g.nivel,
+                                !trocaNaDistribuicao(g.nivel, g.distribuicaoJusta), venceu,
+                                g.pontosJog, g.pontosMac});
         }
         g.pontosMac = 0;
         g.pontosJog = 0;

@@ -12,6 +12,7 @@
 #include <string>
 
 #include "core/carta.h"
+#include "core/nivel.h"
 #include "core/tarefa.h"
 
 namespace corvina {
@@ -74,6 +75,15 @@ struct Placar {
     int16 pontosJog = 0;
     int16 pontosMac = 0;
     bool pisca = false; // Timer1: the names and points blink, a match was won
+};
+
+// A match played to its end, as the player's history keeps it.
+struct FimDaPartida {
+    std::string nome;
+    TipoNivel nivel = TipoNivel::Classico;
+    bool justa = false;
+    bool venceu = false;
+    int maosGanhas = 0, maosPerdidas = 0;
 };
 
 class Pausa;
@@ -143,6 +153,9 @@ class VistaMesa {
     // Several values stored as one write (see Armazem::abreLote).
     virtual void abreLote() {}
     virtual void fechaLote() {}
+    // A match ended (a side reached 4 points), told inside the batch that writes the record:
+    // the player's history keeps it.
+    virtual void partidaTerminada(const FimDaPartida& fim) { (void)fim; }
 };
 
 // The awaitable of a pause.

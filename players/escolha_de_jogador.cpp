@@ -1,7 +1,9 @@
 #include "players/escolha_de_jogador.h"
 
 #include "core/ajustes.h"
+#include "core/lote_de_ajustes.h"
 #include "players/dobra_nome.h"
+#include "players/historico_do_jogador.h"
 #include "players/lista_de_jogadores.h"
 #include "players/textos_jogadores.h"
 
@@ -110,7 +112,12 @@ void EscolhaDeJogador::excluir() {
     if (n == 0 && !procurado.empty()) return; // the store changed under the window
     const std::string nome = n == 0 ? "" : armazem_.le(chaveBase(), ajuste::jogador(n), "");
     if (!arredores_.perguntaSimNao(std::string(texto::kDesejaExcluir) + nome + "?")) return;
-    if (n > 0) tiraDaLista(armazem_, n);
+    if (n > 0) {
+        // The record stays, for a name registered again; the history goes with the player.
+        const LoteDeAjustes lote(armazem_);
+        tiraDaLista(armazem_, n);
+        apagaHistoricoDoJogador(armazem_, nome);
+    }
     preenche();
     seleciona(armazem_.le(chaveBase(), ajuste::jogador(1), ""));
     if (lista_.empty()) {

@@ -1,5 +1,9 @@
 #include "shell/vista_qt.h"
 
+#include <QDate>
+
+#include "players/historico_do_jogador.h"
+
 #include <QPointer>
 
 #include "core/ajustes.h"
@@ -113,6 +117,13 @@ bool VistaQt::gravaAjuste(const std::string& chave, const std::string& nome,
 void VistaQt::mudou() {
     if (tela_) tela_->update();
     if (aoMudar_) aoMudar_();
+}
+
+void VistaQt::partidaTerminada(const FimDaPartida& fim) {
+    const QDate hoje = QDate::currentDate();
+    registraNoHistorico(settings_, fim.nome,
+                        {diaDoHistorico(hoje.year(), hoje.month(), hoje.day()), fim.nivel,
+                         fim.justa, fim.venceu, fim.maosGanhas, fim.maosPerdidas});
 }
 
 } // namespace corvina

@@ -54,6 +54,8 @@ class VistaQt : public VistaDeCena {
                      const std::string& valor) override;
     void abreLote() override { settings_.abreLote(); }
     void fechaLote() override { settings_.fechaLote(); }
+    // Kept in the player's history, dated today.
+    void partidaTerminada(const FimDaPartida& fim) override;
 
   protected:
     void mudou() override;

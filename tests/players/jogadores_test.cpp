@@ -9,6 +9,7 @@
 #include "players/escolha_de_jogador.h"
 #include "players/escolha_de_nivel.h"
 #include "players/hall_da_fama.h"
+#include "players/historico_do_jogador.h"
 #include "players/lista_de_jogadores.h"
 #include "players/novo_jogador.h"
 
@@ -154,9 +155,10 @@ TEST_F(Jogadores, PlayingWithAnEmptyListIsSemNome) {
     EXPECT_EQ(a.le(chaveBase(), "Assistido", ""), "0") << "the empty name's key is the program's";
 }
 
-TEST_F(Jogadores, DeletingClosesTheGapAndKeepsTheRecord) {
+TEST_F(Jogadores, DeletingClosesTheGapKeepsTheRecordAndDropsTheHistory) {
     lista({"Ana", "Bia", "Caio", "Duda"});
     registro("Bia", "2", "1", "1");
+    registraNoHistorico(a, "Bia", {1, TipoNivel::Forte, true, true, 4, 0});
     EscolhaDeJogador j = janela();
     j.carrega(false);
     j.seleciona("Bia");
@@ -170,6 +172,7 @@ TEST_F(Jogadores, DeletingClosesTheGapAndKeepsTheRecord) {
     EXPECT_EQ(a.le(chaveBase(), "Jogador4", "vazio"), "vazio");
     EXPECT_EQ(j.textoSelecionado(), "Ana");
     EXPECT_EQ(leRegistro(a, "Bia").vitorias, 2) << "registered again, Bia finds her record";
+    EXPECT_TRUE(leHistoricoDoJogador(a, "Bia").partidas.empty()) << "but not her history";
 }
 
 TEST_F(Jogadores, TheRegisterCommandIsOffAtFiftyAndTheLastDeletionAsksForAPlayer) {

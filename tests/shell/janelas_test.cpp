@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDate>
 #include <QLineEdit>
 #include <QSlider>
 #include <QStyle>
@@ -26,6 +27,7 @@
 #include "midia/audio/musica_fluidsynth.h"
 #include "midia/imagens.h"
 #include "midia/ondas_qt.h"
+#include "players/historico_do_jogador.h"
 #include "players/qt/frm_nivel.h"
 #include "players/qt/frm_nome.h"
 #include "players/qt/frm_novo_jogador.h"
@@ -462,9 +464,15 @@ TEST(PartidaComSom, AWholeMatchRunsWithSoundAndMusicOnAndNoAudioDevice) {
     for (int vez = 0; vez < 5000 && partidas == 0; ++vez) jogaPeloJogador(jogo);
     ASSERT_EQ(partidas, 1) << "a match was played to its end";
     const std::string chave = chaveJogador("Ana");
-    EXPECT_EQ(numeroDoTexto(settings.le(chave, "Vitorias", "0")) +
-                  numeroDoTexto(settings.le(chave, "Derrotas", "0")),
-              1);
+    const long vitorias = numeroDoTexto(settings.le(chave, "Vitorias", "0"));
+    EXPECT_EQ(vitorias + numeroDoTexto(settings.le(chave, "Derrotas", "0")), 1);
+    // The history has the match too, dated today, under the column of its level and deal.
+    const HistoricoDePartidas h = leHistoricoDoJogador(settings, "Ana");
+    ASSERT_EQ(h.partidas.size(), 1u);
+    const QDate hoje = QDate::currentDate();
+    EXPECT_EQ(h.partidas[0].dia, diaDoHistorico(hoje.year(), hoje.month(), hoje.day()));
+    EXPECT_EQ(h.estatisticas({TipoNivel::Classico, false}).vitorias, vitorias);
+    EXPECT_GE(h.partidas[0].maosGanhas + h.partidas[0].maosPerdidas, 4);
     som.fechaMusica();
     musica.aguardaComandos();
 }

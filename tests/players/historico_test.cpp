@@ -1,0 +1,164 @@
+// The players' history of matches: the statistics of each column against a plain count of the
+// matches, the cap that folds old matches into totals, a damaged history set aside, and the
+// store's size with every player at the cap.
+
+#include <gtest/gtest.h>
+
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <random>
+#include <sstream>
+
+#include "core/ajustes.h"
+#include "core/armazem_memoria.h"
+#include "core/lote_de_ajustes.h"
+#include "players/historico_do_jogador.h"
+#include "players/qt/settings.h"
+
+namespace corvina {
+namespace {
+
+// "c+ c+ f- cj+ e-": the level's letter, "j" for the fair deal, and "+" won or "-" lost; the
+// matches won 4 to 1 and lost 2 to 4, one a day.
+std::vector<PartidaDoHistorico> partidas(const std::string& texto) {
+    std::vector<PartidaDoHistorico> ps;
+    std::istringstream in(texto);
+    for (std::string p; in >> p;) {
+        const TipoNivel n = p[0] == 'c'   ? TipoNivel::Classico
+                            : p[0] == 'e' ? TipoNivel::Esperto
+                                          : TipoNivel::Forte;
+        const bool venceu = p.back() == '+';
+        ps.push_back(
+            {static_cast<int>(ps.size()), n, p[1] == 'j', venceu, venceu ? 4 : 2, venceu ? 1 : 4});
+    }
+    return ps;
+}
+
+TEST(HistoricoDePartidas, EachColumnCountsItsOwnMatchesAndStreaks) {
+    const struct {
+        const char* caso;
+        const char* jogadas;
+        ColunaDoHistorico coluna;
+        long jogadasNaColuna, vitorias, sequencia, maiorV, maiorD;
+    } casos[] = {
+        {"nothing played", "", {TipoNivel::Forte, false}, 0, 0, 0, 0, 0},
+        {"a loss at Forte doesn't break the streak at Clássico",
+         "c+ c+ f- c+",
+         {TipoNivel::Classico, false},
+         3,
+         3,
+         3,
+         3,
+         0},
+        {"nor is it counted there", "c+ c+ f- c+", {TipoNivel::Forte, false}, 1, 0, -1, 0, 1},
+        {"the fair deal apart", "c+ cj- cj- c+ cj+", {TipoNivel::Classico, true}, 3, 1, 1, 1, 2},
+        {"the longest run stays once broken",
+         "e+ e+ e+ e- e+ e- e- e- e- e+",
+         {TipoNivel::Esperto, false},
+         10,
+         5,
+         1,
+         3,
+         4},
+    };
+    for (const auto& c : casos) {
+        HistoricoDePartidas h;
+        for (const auto& p : partidas(c.jogadas)) h.registra(p);
+        const Estatisticas e = h.estatisticas(c.coluna);
+        EXPECT_EQ(e.jogadas, c.jogadasNaColuna) << c.caso;
+        EXPECT_EQ(e.vitorias, c.vitorias) << c.caso;
+        EXPECT_EQ(e.derrotas, c.jogadasNaColuna - c.vitorias) << c.caso;
+        EXPECT_EQ(e.sequencia, c.sequencia) << c.caso;
+        EXPECT_EQ(e.maiorSequenciaDeVitorias, c.maiorV) << c.caso;
+        EXPECT_EQ(e.maiorSequenciaDeDerrotas, c.maiorD) << c.caso;
+        EXPECT_EQ(e.maosGanhas, 4 * c.vitorias + 2 * (c.jogadasNaColuna - c.vitorias)) << c.caso;
+    }
+}
+
+// Thousands of matches at random: the capped history, written and read back, gives each
+// column the figures of a plain count over every match ever played.
+TEST(HistoricoDePartidas, FoldingTheOldMatchesKeepsEveryFigure) {
+    std::mt19937 sorte(61);
+    HistoricoDePartidas h;
+    std::array<Estatisticas, kColunasDoHistorico> contadas{};
+    for (int i = 0; i < 3500; ++i) {
+        const PartidaDoHistorico p{
+            i / 3,           kNiveis[sorte() % 3],          sorte() % 2 == 0,
+            sorte() % 5 < 3, static_cast<int>(sorte() % 5), static_cast<int>(sorte() % 5)};
+        h.registra(p);
+        contadas[indiceDaColuna({p.nivel, p.justa})].soma(p);
+        if (i % 500 != 499) continue;
+        const TextoDoHistorico t = escreveHistorico(h);
+        const auto lido = leHistorico(t.partidas, t.antigas);
+        ASSERT_TRUE(lido) << "after " << i + 1;
+        EXPECT_EQ(*lido, h);
+        EXPECT_LE(lido->partidas.size(), kPartidasNoHistorico);
+        for (const TipoNivel n : kNiveis)
+            for (const bool justa : {false, true})
+                EXPECT_EQ(lido->estatisticas({n, justa}), contadas[indiceDaColuna({n, justa})])
+                    << "after " << i + 1;
+    }
+}
+
+TEST(HistoricoDePartidas, ADamagedHistoryIsKeptAsideAndANewOneBegins) {
+    const std::string boa = escreveHistorico([] {
+                                HistoricoDePartidas h;
+                                for (const auto& p : partidas("c+ e- f+")) h.registra(p);
+                                return h;
+                            }())
+                                .partidas;
+    const struct {
+        const char* caso;
+        std::string partidas, antigas;
+    } casos[] = {
+        {"a broken entry", boa.substr(0, boa.size() - 1), ""},
+        {"a level no version wrote", "000xnv41", ""},
+        {"five hands won", "000cnv51", ""},
+        {"more than the cap", std::string(8 * (kPartidasNoHistorico + 1), '0'), ""},
+        {"totals that don't add up", boa, "cn,3,1,1,0,0,0,1,1,5"},
+        {"totals cut short", boa, "cn,3,1,2"},
+    };
+    for (const auto& c : casos) {
+        ArmazemMemoria a;
+        a.grava(chaveJogador("Ana"), "Historico", c.partidas);
+        a.grava(chaveJogador("Ana"), "HistoricoAntigo", c.antigas);
+        EXPECT_TRUE(leHistoricoDoJogador(a, "Ana").partidas.empty()) << c.caso;
+        EXPECT_EQ(a.le(chaveJogador("Ana"), "HistoricoDanificado", ""), c.partidas) << c.caso;
+        registraNoHistorico(a, "Ana", partidas("f+")[0]);
+        EXPECT_EQ(leHistoricoDoJogador(a, "Ana").partidas.size(), 1u) << c.caso;
+    }
+    ArmazemMemoria a;
+    a.grava(chaveJogador("Ana"), "Historico", boa);
+    EXPECT_EQ(leHistoricoDoJogador(a, "Ana").partidas.size(), 3u);
+    apagaHistoricoDoJogador(a, "Ana");
+    EXPECT_TRUE(leHistoricoDoJogador(a, "Ana").partidas.empty());
+}
+
+// Fifty players at the cap, with their records: the store stays under its limit of 1 MiB and
+// reads back whole.
+TEST(HistoricoDePartidas, FiftyPlayersAtTheCapFitTheStore) {
+    QTemporaryDir pasta;
+    const QString arquivo = pasta.filePath("Corvina.ini");
+    HistoricoDePartidas cheio;
+    for (std::size_t i = 0; i < kPartidasNoHistorico + 200; ++i)
+        cheio.registra({static_cast<int>(i), kNiveis[i % 3], i % 2 == 0, i % 3 != 0, 4, 3});
+    {
+        Settings s(arquivo);
+        const LoteDeAjustes lote(s);
+        for (int n = 1; n <= 50; ++n) {
+            const std::string nome = "Jogador " + std::to_string(n);
+            s.grava(chaveBase(), ajuste::jogador(n), nome);
+            for (const char* v : {"Vitorias", "Derrotas", "Saldo"})
+                s.grava(chaveJogador(nome), v, "-32768");
+            const TextoDoHistorico t = escreveHistorico(cheio);
+            s.grava(chaveJogador(nome), "Historico", t.partidas);
+            s.grava(chaveJogador(nome), "HistoricoAntigo", t.antigas);
+        }
+    }
+    EXPECT_LT(QFileInfo(arquivo).size(), 1024 * 1024);
+    Settings s(arquivo);
+    EXPECT_EQ(leHistoricoDoJogador(s, "Jogador 50"), cheio);
+}
+
+} // namespace
+} // namespace corvina
