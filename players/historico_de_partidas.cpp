@@ -47,7 +47,7 @@ std::optional<PartidaDoHistorico> leEntrada(std::string_view e) {
         p.maosPerdidas > kMaosDaPartida)
         return std::nullopt;
     p.nivel = *nivel;
-    p.justa = justa == 'j';
+    p.justa = justa == 'j' || !trocaNaDistribuicao(p.nivel, false);
     p.venceu = resultado == 'v';
     return p;
 }
@@ -140,6 +140,8 @@ double Estatisticas::fracaoDeVitorias() const {
 
 void HistoricoDePartidas::registra(const PartidaDoHistorico& p) {
     partidas.push_back(p);
+    // A level that never exchanges the hands deals fairly, whatever the player had ticked.
+    partidas.back().justa = p.justa || !trocaNaDistribuicao(p.nivel, false);
     while (partidas.size() > kPartidasNoHistorico) {
         const PartidaDoHistorico& velha = partidas.front();
         antigas[indiceDaColuna({velha.nivel, velha.justa})].soma(velha);

@@ -2,6 +2,7 @@
 
 #include "core/ajustes.h"
 #include "core/lote_de_ajustes.h"
+#include "players/lista_de_jogadores.h"
 
 namespace corvina {
 
@@ -42,6 +43,11 @@ void apagaHistoricoDoJogador(Armazem& a, const std::string& nome) {
     const LoteDeAjustes lote(a);
     for (const char* valor : {kPartidas, kAntigas, kPartidasDanificadas, kAntigasDanificadas})
         a.grava(chave, valor, "");
+}
+
+void zeraEstatisticas(Armazem& a) {
+    const LoteDeAjustes lote(a);
+    for (const std::string& nome : leListaDeJogadores(a)) apagaHistoricoDoJogador(a, nome);
 }
 
 } // namespace corvina

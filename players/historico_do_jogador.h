@@ -13,5 +13,7 @@ namespace corvina {
 HistoricoDePartidas leHistoricoDoJogador(Armazem& a, const std::string& nome);
 void registraNoHistorico(Armazem& a, const std::string& nome, const PartidaDoHistorico& p);
 void apagaHistoricoDoJogador(Armazem& a, const std::string& nome);
+// Every listed player's history, in one write.
+void zeraEstatisticas(Armazem& a);
 
 } // namespace corvina

@@ -11,5 +11,6 @@ inline constexpr const char* kJaCadastrado = " já está cadastrado";
 inline constexpr const char* kJogarComEsteNome = "Deseja jogar com este nome?";
 inline constexpr const char* kZerarHall = "Deseja realmente zerar o Hall da Fama?";
 inline constexpr const char* kConfirmacao = "Confirmação";
+inline constexpr const char* kZerarEstatisticas = "Deseja zerar também as estatísticas?";
 
 } // namespace corvina::texto

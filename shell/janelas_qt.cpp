@@ -1,5 +1,6 @@
 #include "shell/janelas_qt.h"
 
+#include "players/qt/frm_estatisticas.h"
 #include "players/qt/frm_nivel.h"
 #include "players/qt/frm_nome.h"
 #include "players/qt/frm_opc.h"
@@ -21,7 +22,9 @@ void JanelasQt::abre(Janela janela, const Placar& placar) {
         break;
     }
     case Janela::FrmPlacar:
-        FrmPlacar(dono_, m, placar).exec();
+        FrmPlacar(dono_, m, placar, [this, &m](QWidget* placarAberto) {
+            FrmEstatisticas(placarAberto, m, armazem_).exec();
+        }).exec();
         break;
     case Janela::FrmOpc:
         FrmOpc(dono_, m, armazem_).exec();

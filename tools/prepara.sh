@@ -10,6 +10,8 @@ pacotes=(
   nlohmann-json3-dev
   qt6-base-dev
   qt6-multimedia-dev
+  qt6-charts-dev
+  libqt6opengl6-dev
   libgl-dev
   fonts-dejavu-core
   libfluidsynth-dev

@@ -16,7 +16,9 @@ class ComandoAcessivel : public QAccessibleWidget {
     QString text(QAccessible::Text t) const override {
         if (t != QAccessible::Name) return QAccessibleWidget::text(t);
         // The label may hold rich text or line breaks; the name is its words.
+        // A command whose word is drawn on the window's picture is named apart.
         const auto* c = static_cast<const Comando*>(widget());
+        if (c->text().isEmpty()) return c->accessibleName();
         return QTextDocumentFragment::fromHtml(c->text()).toPlainText().simplified();
     }
     QStringList actionNames() const override {

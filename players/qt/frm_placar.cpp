@@ -7,7 +7,8 @@
 
 namespace corvina {
 
-FrmPlacar::FrmPlacar(QWidget* dono, const Module1& modulo, const Placar& placar)
+FrmPlacar::FrmPlacar(QWidget* dono, const Module1& modulo, const Placar& placar,
+                     std::function<void(QWidget*)> abreEstatisticas)
     : JanelaDeFigura(dono, "frmplacar", {345, 176}) {
     setObjectName("FrmPlacar");
     setMouseTracking(true);
@@ -27,6 +28,12 @@ FrmPlacar::FrmPlacar(QWidget* dono, const Module1& modulo, const Placar& placar)
     label8_ = comando("Label8", "OK", emPixels(3780, 2100, 1215, 255), [this] { accept(); });
     label8_->setAlignment(Qt::AlignCenter);
     label8_->setStyleSheet("color: rgb(224,224,224);");
+    if (placar.pisca && abreEstatisticas) {
+        QLabel* l = comando(
+            "Estatisticas", "<u>Estatísticas</u>", QRect(14, 140, 120, 17),
+            [this, abreEstatisticas] { abreEstatisticas(this); }, 12, false);
+        l->setStyleSheet("color: rgb(240,236,220);");
+    }
     timer1_.setInterval(kPiscaMs);
     connect(&timer1_, &QTimer::timeout, this, [this] { pisca(); });
     if (placar.pisca) timer1_.start();

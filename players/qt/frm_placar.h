@@ -2,6 +2,7 @@
 // FrmPlacar: the score after a hand; at the end of a match the names and points blink.
 
 #include <QTimer>
+#include <functional>
 
 #include "core/module1.h"
 #include "core/vista_mesa.h"
@@ -11,7 +12,9 @@ namespace corvina {
 
 class FrmPlacar : public JanelaDeFigura {
   public:
-    FrmPlacar(QWidget* dono, const Module1& modulo, const Placar& placar);
+    // `abreEstatisticas`, when given, is offered at the end of a match, beside OK.
+    FrmPlacar(QWidget* dono, const Module1& modulo, const Placar& placar,
+              std::function<void(QWidget*)> abreEstatisticas = {});
     static constexpr int kPiscaMs = 500; // Timer1
 
   protected:

@@ -3,6 +3,8 @@
 #include <QMouseEvent>
 
 #include "core/textos.h"
+#include "players/historico_do_jogador.h"
+#include "players/qt/frm_estatisticas.h"
 #include "players/qt/frm_sim_nao.h"
 #include "players/qt/lugar_da_janela.h"
 #include "players/textos_jogadores.h"
@@ -38,6 +40,9 @@ FrmRecords::FrmRecords(QWidget* dono, const Module1& modulo, Armazem& armazem, S
     });
     comando("Image3", "", emPixels(9030, 210, 450, 330), [this] { accept(); });
     comando("Image4", "", emPixels(180, 4185, 1125, 315), [this] { zera(); });
+    // Beside the hall: each player's own history.
+    comando("Estatisticas", "", QRect(270, 279, 102, 21),
+            [this] { FrmEstatisticas(this, modulo_, armazem_).exec(); });
     monta();
     vigiaTeclas();
     CentraJanela(*this);
@@ -66,6 +71,8 @@ void FrmRecords::zera() {
     if (modulo_.tocarSom && som_) som_->tocaSom(som::kApaga, false);
     zeraHall(armazem_);
     monta();
+    // The histories are the players' own: asked apart, after the hall is wiped.
+    if (SimNao(this, texto::kZerarEstatisticas, texto::kConfirmacao)) zeraEstatisticas(armazem_);
 }
 
 void FrmRecords::primeiraAtivacao() {

@@ -14,6 +14,7 @@
 #include "core/lote_de_ajustes.h"
 #include "players/historico_do_jogador.h"
 #include "players/qt/settings.h"
+#include "players/quadro_de_estatisticas.h"
 
 namespace corvina {
 namespace {
@@ -41,7 +42,7 @@ TEST(HistoricoDePartidas, EachColumnCountsItsOwnMatchesAndStreaks) {
         ColunaDoHistorico coluna;
         long jogadasNaColuna, vitorias, sequencia, maiorV, maiorD;
     } casos[] = {
-        {"nothing played", "", {TipoNivel::Forte, false}, 0, 0, 0, 0, 0},
+        {"nothing played", "", {TipoNivel::Forte, true}, 0, 0, 0, 0, 0},
         {"a loss at Forte doesn't break the streak at Clássico",
          "c+ c+ f- c+",
          {TipoNivel::Classico, false},
@@ -50,11 +51,11 @@ TEST(HistoricoDePartidas, EachColumnCountsItsOwnMatchesAndStreaks) {
          3,
          3,
          0},
-        {"nor is it counted there", "c+ c+ f- c+", {TipoNivel::Forte, false}, 1, 0, -1, 0, 1},
+        {"nor is it counted there", "c+ c+ f- c+", {TipoNivel::Forte, true}, 1, 0, -1, 0, 1},
         {"the fair deal apart", "c+ cj- cj- c+ cj+", {TipoNivel::Classico, true}, 3, 1, 1, 1, 2},
         {"the longest run stays once broken",
          "e+ e+ e+ e- e+ e- e- e- e- e+",
-         {TipoNivel::Esperto, false},
+         {TipoNivel::Esperto, true},
          10,
          5,
          1,
@@ -86,7 +87,7 @@ TEST(HistoricoDePartidas, FoldingTheOldMatchesKeepsEveryFigure) {
             i / 3,           kNiveis[sorte() % 3],          sorte() % 2 == 0,
             sorte() % 5 < 3, static_cast<int>(sorte() % 5), static_cast<int>(sorte() % 5)};
         h.registra(p);
-        contadas[indiceDaColuna({p.nivel, p.justa})].soma(p);
+        contadas[indiceDaColuna({p.nivel, p.justa || p.nivel != TipoNivel::Classico})].soma(p);
         if (i % 500 != 499) continue;
         const TextoDoHistorico t = escreveHistorico(h);
         const auto lido = leHistorico(t.partidas, t.antigas);
@@ -132,6 +133,37 @@ TEST(HistoricoDePartidas, ADamagedHistoryIsKeptAsideAndANewOneBegins) {
     EXPECT_EQ(leHistoricoDoJogador(a, "Ana").partidas.size(), 3u);
     apagaHistoricoDoJogador(a, "Ana");
     EXPECT_TRUE(leHistoricoDoJogador(a, "Ana").partidas.empty());
+}
+
+// What the statistics window reads: a column per level, Clássico's fair deal apart, a dash
+// where nothing was played, and the chart's curves told in words.
+TEST(QuadroDeEstatisticas, TheFiguresAndTheirWords) {
+    HistoricoDePartidas h;
+    for (const auto& p : partidas("c+ c+ f- c- c+ cj+ f- f-")) h.registra(p);
+    const auto quadro = quadroDeEstatisticas(h);
+    const auto linha = [&](const char* nome) {
+        for (const auto& l : quadro)
+            if (l.nome == nome) return l.valores;
+        ADD_FAILURE() << nome;
+        return std::array<std::string, kColunasDoQuadro>{};
+    };
+    using V = std::array<std::string, kColunasDoQuadro>;
+    EXPECT_EQ(linha("Partidas"), (V{"4", "1", "—", "3"}));
+    EXPECT_EQ(linha("Aproveitamento"), (V{"75%", "100%", "—", "0%"}));
+    EXPECT_EQ(linha("Sequência atual"), (V{"1 vitória", "1 vitória", "—", "3 derrotas"}));
+    EXPECT_EQ(linha("Mãos perdidas"), (V{"7", "1", "—", "12"}));
+    EXPECT_EQ(linha("Última partida"), (V{"05/01/2000", "06/01/2000", "—", "08/01/2000"}));
+    EXPECT_EQ(resumoDasCurvas(h), "Nas últimas 8 partidas: Clássico, 75% (3 de 4); Clássico "
+                                  "(justa), 100% (1 de 1); Forte, 0% (0 de 3).");
+    EXPECT_EQ(resumoDasCurvas({}), "Nenhuma partida terminada ainda.");
+    EXPECT_EQ(textoDoDia(diaDoHistorico(2026, 11, 25)), "25/11/2026");
+    // The chart follows the last hundred matches only.
+    for (int i = 0; i < 150; ++i) h.registra({100 + i, TipoNivel::Esperto, true, i >= 100, 4, 0});
+    const auto curvas = curvasDeAproveitamento(h);
+    ASSERT_EQ(curvas[2].size(), 100u);
+    EXPECT_EQ(curvas[2].front().partida, 1);
+    EXPECT_DOUBLE_EQ(curvas[2].back().fracao, 0.5);
+    EXPECT_TRUE(curvas[0].empty()) << "Clássico's matches lie before the last hundred";
 }
 
 // Fifty players at the cap, with their records: the store stays under its limit of 1 MiB and

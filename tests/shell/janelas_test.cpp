@@ -28,6 +28,7 @@
 #include "midia/imagens.h"
 #include "midia/ondas_qt.h"
 #include "players/historico_do_jogador.h"
+#include "players/qt/frm_estatisticas.h"
 #include "players/qt/frm_nivel.h"
 #include "players/qt/frm_nome.h"
 #include "players/qt/frm_novo_jogador.h"
@@ -245,7 +246,16 @@ TEST_F(Mesa, TheHallOfFameShowsTheBestAndCanBeWiped) {
     jogo.modulo.nomeJogador = "Caio";
     jogo.modulo.tocarSom = true;
     jogo.modulo.tocarMusica = true;
-    quandoAbrir("FrmSimNao", [](QWidget* w) { QTest::keyClick(w, Qt::Key_Return); });
+    registraNoHistorico(settings, "Bia", {9000, TipoNivel::Forte, true, true, 4, 2});
+    // Sim to the hall, and then Sim to the statistics too.
+    quandoAbrir("FrmSimNao", [](QWidget* w) {
+        EXPECT_TRUE(parte<QLabel>(w, "Label1")->text().contains("Hall da Fama"));
+        quandoAbrir("FrmSimNao", [](QWidget* w2) {
+            EXPECT_TRUE(parte<QLabel>(w2, "Label1")->text().contains("estatísticas"));
+            QTest::keyClick(w2, Qt::Key_Return);
+        });
+        QTest::keyClick(w, Qt::Key_Return);
+    });
     quandoAbrir("FrmRecords", [](QWidget* w) {
         EXPECT_EQ(parte<QLabel>(w, "lbNome(1)")->text(), "Bia");
         EXPECT_EQ(parte<QLabel>(w, "lbNome(2)")->text(), "Caio");
@@ -258,11 +268,49 @@ TEST_F(Mesa, TheHallOfFameShowsTheBestAndCanBeWiped) {
     });
     tecla(Qt::Key_F5);
     EXPECT_EQ(settings.le(chaveJogador("Bia"), "Saldo", "vazio"), "vazio");
+    EXPECT_TRUE(leHistoricoDoJogador(settings, "Bia").partidas.empty());
     EXPECT_EQ(tocados(), (std::vector<std::string>{"click2.wav", "delete.wav"}));
     EXPECT_EQ(midi.comandos,
               (std::vector<std::string>{
                   "close musica", "open " + sons + "\\passport.mid type sequencer alias musica",
                   "play musica", "Close musica"}));
+}
+
+// From the hall of fame, the player's own history: a column per level, the chart's curves in
+// words for a screen reader, and another player chosen in the window.
+TEST_F(Mesa, TheStatisticsShowEachPlayersOwnHistory) {
+    lista({"Ana", "Bia"});
+    abre([](QWidget* w) { clica(w, "Label9"); });
+    jogo.modulo.nomeJogador = "Ana";
+    for (const bool venceu : {true, false, true})
+        registraNoHistorico(settings, "Ana", {9000, TipoNivel::Classico, false, venceu, 4, 2});
+    registraNoHistorico(settings, "Ana", {9001, TipoNivel::Forte, true, false, 1, 4});
+    quandoAbrir("FrmRecords", [](QWidget* w) {
+        clica(w, "Estatisticas");
+        QTest::keyClick(w, Qt::Key_Escape);
+    });
+    quandoAbrir("FrmEstatisticas", [](QWidget* w) {
+        const auto valor = [&](int linha, int coluna) {
+            const QByteArray nome =
+                "Valor" + QByteArray::number(linha) + "_" + QByteArray::number(coluna);
+            return parte<QLabel>(w, nome.constData())->text();
+        };
+        EXPECT_EQ(parte<QComboBox>(w, "Jogador")->currentText(), "Ana");
+        EXPECT_EQ(valor(0, 0), "3") << "three matches at Clássico";
+        EXPECT_EQ(valor(3, 0), "67%");
+        EXPECT_EQ(valor(0, 3), "1") << "one at Forte";
+        EXPECT_EQ(valor(0, 2), "—") << "none at Esperto";
+        auto* grafico = parte<QWidget>(w, "Grafico");
+        QAccessibleInterface* leitura = QAccessible::queryAccessibleInterface(grafico);
+        ASSERT_NE(leitura, nullptr);
+        EXPECT_EQ(leitura->text(QAccessible::Description),
+                  "Nas últimas 4 partidas: Clássico, 67% (2 de 3); Forte, 0% (0 de 1).");
+        parte<QComboBox>(w, "Jogador")->setCurrentIndex(1);
+        EXPECT_EQ(valor(0, 0), "—") << "Bia has played nothing";
+        EXPECT_EQ(leitura->text(QAccessible::Description), "Nenhuma partida terminada ainda.");
+        QTest::keyClick(w, Qt::Key_Escape);
+    });
+    tecla(Qt::Key_F5);
 }
 
 TEST_F(Mesa, EveryToolbarWordClicksWhenSoundIsOnAndTheAboutPictureOpensItsWindow) {
@@ -336,8 +384,10 @@ TEST(Textos, EveryTextFitsItsPlace) {
     FrmSobre sobre(nullptr, versaoDoPrograma());
     FrmUp up(nullptr, "https://127.0.0.1:1/x.deb", "3.8.0", "");
     FrmNivel nivel(nullptr, m, a);
+    registraNoHistorico(a, m.nomeJogador, {9000, TipoNivel::Classico, true, true, 4, 3});
+    FrmEstatisticas estatisticas(nullptr, m, a);
     for (QWidget* w : std::initializer_list<QWidget*>{&nome, &novo, &opc, &placar, &records, &sobre,
-                                                      &up, &nivel})
+                                                      &up, &nivel, &estatisticas})
         confereTextos(w);
     quandoAbrir("FrmSimNao", [](QWidget* w) {
         confereTextos(w);

@@ -128,6 +128,18 @@ QImage janelaRecords() {
     for (int r = 0; r < 6; ++r) caixa(p, QRectF(10, 82 + 32 * r, 622, 28));
     botao(p, QRect(547, 279, 83, 21), QStringLiteral("Fechar"));
     botao(p, QRect(12, 279, 75, 21), QStringLiteral("Zerar"));
+    botao(p, QRect(270, 279, 102, 21), QStringLiteral("Estatísticas"));
+    return img;
+}
+
+QImage janelaEstatisticas() {
+    QImage img = fundo({600, 480}, 36);
+    QPainter p(&img);
+    p.setRenderHint(QPainter::Antialiasing, true);
+    titulo(p, QRect(14, 4, 400, 32), QStringLiteral("Estatísticas"), 22);
+    caixa(p, QRectF(12, 76, 576, 212));  // the figures, a column per level
+    caixa(p, QRectF(12, 296, 576, 146)); // the chart
+    botao(p, QRect(504, 450, 84, 22), QStringLiteral("Fechar"));
     return img;
 }
 

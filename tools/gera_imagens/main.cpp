@@ -496,7 +496,7 @@ int main(int argc, char** argv) {
             {"frmrecords", janelaRecords()},   {"frmopc", janelaOpcoes()},
             {"frmtipos", janelaTipos(versos)}, {"frmsimnao", janelaSimNao()},
             {"frmplacar", janelaPlacar()},     {"frmsobre", janelaSobre(versos[3])},
-            {"frmnivel", janelaNivel()},
+            {"frmnivel", janelaNivel()},       {"frmestatisticas", janelaEstatisticas()},
         };
         for (const auto& j : janelas)
             ok &= grava(j.figura, arquivo(QString("janelas/%1").arg(j.nome)));

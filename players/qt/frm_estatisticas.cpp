@@ -1,0 +1,136 @@
+#include "players/qt/frm_estatisticas.h"
+
+#include <QChart>
+#include <QChartView>
+#include <QComboBox>
+#include <QLineSeries>
+#include <QValueAxis>
+
+#include "players/historico_do_jogador.h"
+#include "players/lista_de_jogadores.h"
+#include "players/qt/lugar_da_janela.h"
+
+namespace corvina {
+
+namespace {
+constexpr QSize kTamanho(600, 480);
+constexpr int kColunaDosNomes = 16, kPrimeiraColuna = 190, kLarguraDaColuna = 99;
+constexpr int kTopoDoCabecalho = 80, kTopoDasLinhas = 102, kAlturaDaLinha = 18;
+const QRect kLugarDoGrafico(16, 300, 568, 138);
+const QColor kOuro(230, 196, 110), kClaro(240, 236, 220);
+// A colour a level keeps on the chart, told apart also by the line's pattern.
+const std::array<QColor, kColunasDoQuadro> kCores = {QColor(240, 236, 220), QColor(150, 200, 255),
+                                                     QColor(120, 220, 140), QColor(250, 170, 90)};
+const std::array<Qt::PenStyle, kColunasDoQuadro> kTracos = {Qt::SolidLine, Qt::DashLine,
+                                                            Qt::DotLine, Qt::DashDotLine};
+
+QRect celula(int coluna, int top) {
+    return {kPrimeiraColuna + kLarguraDaColuna * coluna, top, kLarguraDaColuna - 4, kAlturaDaLinha};
+}
+} // namespace
+
+FrmEstatisticas::FrmEstatisticas(QWidget* dono, const Module1& modulo, Armazem& armazem)
+    : JanelaDeFigura(dono, "frmestatisticas", kTamanho), armazem_(armazem) {
+    setObjectName("FrmEstatisticas");
+    setWindowTitle("Estatísticas");
+    alca(rotulo("Titulo", "", QRect(0, 0, kTamanho.width(), 36)));
+    rotulo("RotuloJogador", "Jogador:", QRect(16, 44, 70, 24), 13, true, kOuro);
+    jogador_ = new QComboBox(this);
+    jogador_->setObjectName("Jogador");
+    jogador_->setGeometry(90, 44, 220, 24);
+    jogador_->setAccessibleName("Jogador");
+    for (const std::string& nome : leListaDeJogadores(armazem_))
+        jogador_->addItem(QString::fromStdString(nome));
+    const int atual = jogador_->findText(QString::fromStdString(modulo.nomeJogador));
+    if (atual >= 0) jogador_->setCurrentIndex(atual);
+
+    for (std::size_t i = 0; i < kColunasDoQuadro; ++i)
+        rotulo(("Coluna" + std::to_string(i)).c_str(), colunasDoQuadro()[i].titulo,
+               celula(static_cast<int>(i), kTopoDoCabecalho), 11, true, kOuro,
+               Qt::AlignRight | Qt::AlignVCenter);
+    const std::vector<LinhaDoQuadro> modelo = quadroDeEstatisticas({});
+    for (std::size_t r = 0; r < modelo.size(); ++r) {
+        const int top = kTopoDasLinhas + kAlturaDaLinha * static_cast<int>(r);
+        rotulo(("Linha" + std::to_string(r)).c_str(), QString::fromStdString(modelo[r].nome),
+               QRect(kColunaDosNomes, top, kPrimeiraColuna - kColunaDosNomes, kAlturaDaLinha), 12,
+               false, kClaro);
+        std::array<QLabel*, kColunasDoQuadro> linha{};
+        for (std::size_t i = 0; i < kColunasDoQuadro; ++i)
+            linha[i] = rotulo(("Valor" + std::to_string(r) + "_" + std::to_string(i)).c_str(), "",
+                              celula(static_cast<int>(i), top), 12, false, kClaro,
+                              Qt::AlignRight | Qt::AlignVCenter);
+        valores_.push_back(linha);
+    }
+
+    grafico_ = new QChartView(this);
+    grafico_->setObjectName("Grafico");
+    grafico_->setGeometry(kLugarDoGrafico);
+    grafico_->setRenderHint(QPainter::Antialiasing);
+    grafico_->setStyleSheet("background: transparent;");
+    grafico_->setAccessibleName("Aproveitamento por nível nas últimas partidas");
+
+    comando("Fechar", "Fechar", QRect(504, 450, 84, 22), [this] {
+        accept();
+    })->setAlignment(Qt::AlignCenter);
+    connect(jogador_, &QComboBox::currentTextChanged, this,
+            [this](const QString& nome) { mostra(nome.toStdString()); });
+    mostra(jogador_->currentText().toStdString());
+    vigiaTeclas();
+    centraNoDono(*this);
+}
+
+void FrmEstatisticas::mostra(const std::string& nome) {
+    const HistoricoDePartidas h =
+        nome.empty() ? HistoricoDePartidas{} : leHistoricoDoJogador(armazem_, nome);
+    const std::vector<LinhaDoQuadro> quadro = quadroDeEstatisticas(h);
+    for (std::size_t r = 0; r < quadro.size() && r < valores_.size(); ++r)
+        for (std::size_t i = 0; i < kColunasDoQuadro; ++i)
+            valores_[r][i]->setText(QString::fromStdString(quadro[r].valores[i]));
+
+    auto* grafico = new QChart;
+    grafico->setBackgroundVisible(false);
+    grafico->setMargins(QMargins(2, 2, 2, 2));
+    grafico->legend()->setAlignment(Qt::AlignRight);
+    grafico->legend()->setLabelColor(kClaro);
+    auto* eixoX = new QValueAxis;
+    eixoX->setRange(1, kPartidasDaCurva);
+    eixoX->setLabelFormat("%d");
+    eixoX->setTickCount(5);
+    auto* eixoY = new QValueAxis;
+    eixoY->setRange(0, 100);
+    eixoY->setLabelFormat("%d%%");
+    eixoY->setTickCount(3);
+    for (QValueAxis* e : {eixoX, eixoY}) {
+        e->setLabelsColor(kClaro);
+        e->setGridLineColor(QColor(255, 255, 255, 40));
+        e->setLinePenColor(kOuro);
+    }
+    grafico->addAxis(eixoX, Qt::AlignBottom);
+    grafico->addAxis(eixoY, Qt::AlignLeft);
+    const auto curvas = curvasDeAproveitamento(h);
+    for (std::size_t i = 0; i < kColunasDoQuadro; ++i) {
+        auto* serie = new QLineSeries;
+        serie->setName(colunasDoQuadro()[i].titulo);
+        serie->setPen(QPen(kCores[i], 2, kTracos[i]));
+        for (const PontoDaCurva& p : curvas[i]) serie->append(p.partida, 100 * p.fracao);
+        grafico->addSeries(serie);
+        serie->attachAxis(eixoX);
+        serie->attachAxis(eixoY);
+    }
+    QChart* antigo = grafico_->chart();
+    grafico_->setChart(grafico);
+    delete antigo;
+    grafico_->setAccessibleDescription(QString::fromStdString(resumoDasCurvas(h)));
+}
+
+QString FrmEstatisticas::resumo() const {
+    return grafico_->accessibleDescription();
+}
+
+bool FrmEstatisticas::tecla(int key) {
+    if (key != Qt::Key_Escape && key != Qt::Key_Return && key != Qt::Key_Enter) return false;
+    accept();
+    return true;
+}
+
+} // namespace corvina
