@@ -34,7 +34,8 @@ inline constexpr const char* kAssistido = "Assistido";
 inline constexpr const char* kNivel = "Nivel";                         // "classico", ...
 inline constexpr const char* kDistribuicaoJusta = "DistribuicaoJusta"; // "True" / "False"
 inline constexpr const char* kQuatroCores = "QuatroCores"; // the four-colour deck, "True" / "False"
-std::string jogador(int n);                                // Jogador1 .. Jogador50
+inline constexpr const char* kTamanhoDaMesa = "TamanhoDaMesa"; // "100" .. "200", in percent
+std::string jogador(int n);                                    // Jogador1 .. Jogador50
 } // namespace ajuste
 
 // The number at the start of a text, sign included; 0 for an empty or non-numeric text.

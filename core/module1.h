@@ -27,6 +27,8 @@ struct Module1 {
     // The player's opponent, and whether the deal may hand the machine the better hand.
     TipoNivel nivel = TipoNivel::Classico;
     bool distribuicaoJusta = false;
+    // How large the table is drawn, in percent of 800 by 600 pixels.
+    int tamanhoDaMesa = 100;
 };
 
 } // namespace corvina

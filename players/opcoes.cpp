@@ -6,7 +6,7 @@
 namespace corvina {
 
 Opcoes opcoesAtuais(const Module1& m) {
-    return {m.tocarSom, m.tocarMusica, m.animarCartas, m.velocidade};
+    return {m.tocarSom, m.tocarMusica, m.animarCartas, m.velocidade, m.tamanhoDaMesa};
 }
 
 void aceitaOpcoes(Module1& m, Armazem& a, const Opcoes& o) {
@@ -20,6 +20,8 @@ void aceitaOpcoes(Module1& m, Armazem& a, const Opcoes& o) {
     a.grava(base, ajuste::kAnimarCartas, textoBooleano(o.animarCartas));
     a.grava(base, ajuste::kVelocidade, std::to_string(o.velocidade));
     m.velocidade = static_cast<int16>(o.velocidade);
+    m.tamanhoDaMesa = o.tamanhoDaMesa;
+    a.grava(base, ajuste::kTamanhoDaMesa, std::to_string(o.tamanhoDaMesa));
 }
 
 } // namespace corvina

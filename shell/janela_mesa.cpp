@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScreen>
 #include <QTimer>
 
 #include "core/ajustes.h"
@@ -15,6 +16,7 @@
 #include "shell/lugares_da_mesa.h"
 #include "shell/pintura_da_mesa.h"
 #include "table/arraste.h"
+#include "table/tamanho_da_mesa.h"
 #include "table/teclado.h"
 
 namespace corvina {
@@ -70,7 +72,11 @@ JanelaMesa::JanelaMesa(Jogo& jogo, VistaQt& vista, const Imagens& imagens)
     : jogo_(jogo), vista_(vista), imagens_(imagens), condutor_(jogo, vista) {
     setWindowTitle("Corvina");
     setWindowFlags(Qt::FramelessWindowHint | Qt::Window);
-    setFixedSize(800, 600);
+    // The size chosen, as far as this screen allows; on a first start, the largest that fits.
+    const QRect livre = screen()->availableGeometry();
+    jogo_.modulo.tamanhoDaMesa = tamanhoDaMesa(
+        vista_.leAjuste(chaveBase(), ajuste::kTamanhoDaMesa, ""), livre.width(), livre.height());
+    aplicaTamanho(jogo_.modulo.tamanhoDaMesa);
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     instalaMesaAcessivel(); // main installs it first; a window made elsewhere (tests) too
@@ -89,6 +95,8 @@ JanelaMesa::~JanelaMesa() {
 }
 
 void JanelaMesa::mudou() {
+    if (jogo_.modulo.tamanhoDaMesa != moldura_.tamanho())
+        aplicaTamanho(jogo_.modulo.tamanhoDaMesa); // chosen in the options
     update();
     leitores_.avisa(*this);
 }
@@ -112,32 +120,69 @@ std::vector<ItemDaLeitura> JanelaMesa::leitura() const {
 
 QRect JanelaMesa::retanguloDaLeitura(const ItemDaLeitura& item) const {
     // The labels are painted, not sprites: their places are the painter's.
+    QRect r;
     switch (item.papel) {
     case Papel::Mensagens:
-        return lugar::kLabel1.united(lugar::kStatus);
+        r = lugar::kLabel1.united(lugar::kStatus);
+        break;
     case Papel::Placar:
-        return lugar::kPlacar1.translated(lugar::kPainel)
-            .united(lugar::kPlacar2.translated(lugar::kPainel));
+        r = lugar::kPlacar1.translated(lugar::kPainel)
+                .united(lugar::kPlacar2.translated(lugar::kPainel));
+        break;
     case Papel::Ordenar:
-        return lugar::kLabel4;
+        r = lugar::kLabel4;
+        break;
     case Papel::Dica:
-        return lugar::kDica;
+        r = lugar::kDica;
+        break;
     default:
+        for (const Peca p : item.pecas) r = r.united(lugarDa(p));
         break;
     }
-    QRect r;
-    for (const Peca p : item.pecas) r = r.united(retanguloDa(p));
-    return r;
+    return moldura_.paraJanela(r, size());
 }
 
-QRect JanelaMesa::retanguloDa(Peca peca) const {
+QRect JanelaMesa::lugarDa(Peca peca) const {
     return retanguloDaPeca(vista_.cena(), peca);
 }
 
+QRect JanelaMesa::retanguloDa(Peca peca) const {
+    return moldura_.paraJanela(lugarDa(peca), size());
+}
+
+QPoint JanelaMesa::naMesa(const QMouseEvent* e) const {
+    return moldura_.paraMesa(e->position(), size()).toPoint();
+}
+
+void JanelaMesa::aplicaTamanho(int porcento) {
+    moldura_.tamanho(porcento);
+    if (!isFullScreen()) setFixedSize(moldura_.janela());
+    update();
+}
+
+void JanelaMesa::alternaTelaCheia() {
+    if (isFullScreen()) {
+        showNormal();
+        setFixedSize(moldura_.janela());
+        move(ondeEstava_);
+    } else {
+        ondeEstava_ = pos();
+        setMinimumSize(0, 0);
+        setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+        // The whole screen also where no window manager answers the request.
+        setGeometry(screen()->geometry());
+        showFullScreen();
+    }
+}
+
 void JanelaMesa::paintEvent(QPaintEvent*) {
-    // The pictures of the screen the window is on now: 2x on a scaled one.
-    imagens_.paraARazao(devicePixelRatioF());
+    // The pictures for the screen the window is on now and the table's size: the set made for
+    // twice the size as soon as either enlarges it.
+    imagens_.paraARazao(devicePixelRatioF() * moldura_.fator());
     QPainter p(this);
+    if (size() != moldura_.janela()) p.fillRect(rect(), lugar::kFeltro);
+    p.setTransform(moldura_.paraJanela(size()));
+    p.setRenderHint(QPainter::SmoothPixmapTransform, true);
     pintaMesa(p, {jogo_, vista_.cena(), imagens_, condutor_.dica()});
 }
 
@@ -156,7 +201,7 @@ std::optional<Peca> JanelaMesa::spriteEm(QPoint ponto) const {
     const auto& ordem = vista_.cena().ordem();
     for (auto it = ordem.rbegin(); it != ordem.rend(); ++it) {
         const Sprite& s = vista_.cena()[*it];
-        if (!s.Visible || !retanguloDa(*it).contains(ponto)) continue;
+        if (!s.Visible || !lugarDa(*it).contains(ponto)) continue;
         // A sprite that is not enabled gets no mouse events; nor does what lies under it.
         if (!s.Enabled) return std::nullopt;
         return *it;
@@ -186,7 +231,7 @@ QPointF JanelaMesa::dentroDoMover(QPoint p) const {
 }
 
 void JanelaMesa::mouseMoveEvent(QMouseEvent* e) {
-    const QPoint p = e->position().toPoint();
+    const QPoint p = naMesa(e);
     if (arrastandoMover_) {
         if (e->buttons() & Qt::LeftButton) {
             const QPointF x = dentroDoMover(p);
@@ -210,14 +255,14 @@ void JanelaMesa::mouseMoveEvent(QMouseEvent* e) {
 
 void JanelaMesa::mousePressEvent(QMouseEvent* e) {
     if (e->button() != Qt::LeftButton) return;
-    const QPoint p = e->position().toPoint();
+    const QPoint p = naMesa(e);
     pressionado_ = tocado(p);
     if (pressionado_.alvo == Alvo::Sprite && pressionado_.peca == peca::kPicmover) {
         const QPointF x = dentroDoMover(p);
         arrastandoMover_ =
             condutor_.pega(static_cast<float>(x.x()), static_cast<float>(x.y())) == Recusa::Nenhuma;
         mudou();
-    } else if (pressionado_.alvo == Alvo::Titulo) {
+    } else if (pressionado_.alvo == Alvo::Titulo && !isFullScreen()) {
         moveJanela(*this); // the title strip drags the borderless window
     }
 }
@@ -230,7 +275,7 @@ void JanelaMesa::mouseReleaseEvent(QMouseEvent* e) {
         return;
     }
     // A click is a press and a release on the same part.
-    if (tocado(e->position().toPoint()) == pressionado_) clique(pressionado_);
+    if (tocado(naMesa(e)) == pressionado_) clique(pressionado_);
     pressionado_ = {};
 }
 
@@ -291,6 +336,8 @@ bool JanelaMesa::focusNextPrevChild(bool proxima) {
 
 void JanelaMesa::keyPressEvent(QKeyEvent* e) {
     const bool soALetra = e->modifiers() == Qt::NoModifier;
+    if (e->key() == Qt::Key_F11 || (e->key() == Qt::Key_Escape && isFullScreen()))
+        return alternaTelaCheia();
     if (e->key() == kTeclaNivel && soALetra) return abreNivel();
     if (e->key() == kTeclaDica && soALetra) return pedeDica();
     if (e->key() == kTeclaQuatroCores && soALetra) return trocaBaralhoDeCores();

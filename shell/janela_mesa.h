@@ -9,6 +9,7 @@
 #include "core/jogo.h"
 #include "midia/imagens.h"
 #include "shell/mesa_acessivel.h"
+#include "shell/moldura_da_mesa.h"
 #include "shell/vista_qt.h"
 #include "table/comandos.h"
 #include "table/condutor.h"
@@ -27,7 +28,7 @@ class JanelaMesa : public QWidget {
     void aoEncerrar(std::function<void()> f) { encerra_ = std::move(f); }
 
     // Where a part of the table stands on the window, in pixels (for tests and the painter).
-    QRect retanguloDa(Peca peca) const;
+    QRect retanguloDa(Peca peca) const; // in the window's pixels
 
     // A move, whatever sent it; false when the table refused it.
     bool joga(const Jogada& c);
@@ -78,6 +79,11 @@ class JanelaMesa : public QWidget {
     Toque tocado(QPoint p) const;
     std::optional<Peca> spriteEm(QPoint p) const;
     QPointF dentroDoMover(QPoint p) const; // twips inside Picmover
+    QRect lugarDa(Peca peca) const;        // in the table's pixels
+    QPoint naMesa(const QMouseEvent* e) const;
+    // The size (percent) the table is drawn at, and full screen.
+    void aplicaTamanho(int porcento);
+    void alternaTelaCheia();
     void clique(const Toque& t);
     void atende(PedidoDaTecla pedido);
     // The toolbar's windows and a new match wait for the move under way: refused meanwhile.
@@ -88,6 +94,8 @@ class JanelaMesa : public QWidget {
     VistaQt& vista_;
     const Imagens& imagens_;
     Condutor condutor_;
+    MolduraDaMesa moldura_;
+    QPoint ondeEstava_; // the window's place before the full screen
     Toque pressionado_;
     bool arrastandoMover_ = false;
     bool ativada_ = false;

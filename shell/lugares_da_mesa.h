@@ -34,6 +34,7 @@ inline const QRect kDica(591, 332, 176, 18);
 inline const QRect kQuatroCores(591, 352, 200, 18); // to 9 pixels off the window's edge
 
 inline const QColor kOuroDaDica(250, 214, 90);
+inline const QColor kFeltro(21, 130, 64); // the panel's green, around the table in full screen
 inline const QColor kCorDoFoco(255, 255, 255);
 inline const QColor kTextoClaro(240, 230, 200);
 

@@ -1,11 +1,13 @@
 #include "players/qt/frm_opc.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QSlider>
 
 #include "core/ajustes.h"
 #include "players/opcoes.h"
 #include "players/qt/lugar_da_janela.h"
+#include "table/tamanho_da_mesa.h"
 
 namespace corvina {
 
@@ -30,6 +32,14 @@ FrmOpc::FrmOpc(QWidget* dono, Module1& modulo, Armazem& armazem)
     // Below the lower edge: nobody reaches it, so the cards always rise under the mouse.
     check3_ = caixa("Check3", "Animar suas cartas ao passar o mouse sobre elas.",
                     emPixels(360, 3675, 4095, 255), modulo.animarCartas);
+    // Beside the sounds, in the window's free corner: the size of the table.
+    rotulo("RotuloTamanho", "Tamanho da mesa", QRect(214, 68, 140, 17));
+    tamanho_ = new QComboBox(this);
+    tamanho_->setObjectName("TamanhoDaMesa");
+    tamanho_->setAccessibleName("Tamanho da mesa");
+    tamanho_->setGeometry(214, 88, 90, 22);
+    for (const int t : kTamanhosDaMesa) tamanho_->addItem(QString("%1%").arg(t), t);
+    tamanho_->setCurrentIndex(std::max(0, tamanho_->findData(modulo.tamanhoDaMesa)));
     rotulo("Label1", "Velocidade da movimentação das cartas", emPixels(1170, 1845, 3795, 255));
     hscroll1_ = new QSlider(Qt::Horizontal, this);
     hscroll1_->setObjectName("HScroll1");
@@ -50,9 +60,9 @@ FrmOpc::FrmOpc(QWidget* dono, Module1& modulo, Armazem& armazem)
 }
 
 void FrmOpc::ok() {
-    aceitaOpcoes(
-        modulo_, armazem_,
-        {check1_->isChecked(), check2_->isChecked(), check3_->isChecked(), hscroll1_->value()});
+    aceitaOpcoes(modulo_, armazem_,
+                 {check1_->isChecked(), check2_->isChecked(), check3_->isChecked(),
+                  hscroll1_->value(), tamanho_->currentData().toInt()});
     accept();
 }
 

@@ -1,11 +1,12 @@
 #pragma once
-// FrmOpc: sound, music and the speed of the card flights.
+// FrmOpc: sound, music, the speed of the card flights, and the size of the table.
 
 #include "core/armazem.h"
 #include "core/module1.h"
 #include "players/qt/janela_de_figura.h"
 
 class QCheckBox;
+class QComboBox;
 class QSlider;
 
 namespace corvina {
@@ -20,6 +21,7 @@ class FrmOpc : public JanelaDeFigura {
     Armazem& armazem_;
     QCheckBox *check1_, *check2_, *check3_;
     QSlider* hscroll1_;
+    QComboBox* tamanho_;
 };
 
 } // namespace corvina

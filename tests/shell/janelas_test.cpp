@@ -206,14 +206,19 @@ TEST_F(Mesa, OptionsAreStoredOnOkAndLeftAloneOnCancel) {
     tecla(Qt::Key_F4);
     EXPECT_EQ(jogo.modulo.velocidade, 6);
     EXPECT_EQ(ajuste("Velocidade"), "");
+    EXPECT_EQ(janela.size(), QSize(800, 600));
 
     quandoAbrir("FrmOpc", [](QWidget* w) {
         parte<QSlider>(w, "HScroll1")->setValue(11);
         clica(w, "Check1");
         clica(w, "Check2");
+        EXPECT_EQ(parte<QComboBox>(w, "TamanhoDaMesa")->currentText(), "100%");
+        parte<QComboBox>(w, "TamanhoDaMesa")->setCurrentIndex(2);
         clica(w, "Label4");
     });
     tecla(Qt::Key_F4);
+    EXPECT_EQ(ajuste("TamanhoDaMesa"), "150");
+    EXPECT_EQ(janela.size(), QSize(1200, 900)) << "the table takes its new size at once";
     EXPECT_EQ(jogo.modulo.velocidade, 11);
     EXPECT_FALSE(jogo.modulo.tocarSom);
     EXPECT_TRUE(jogo.modulo.tocarMusica);

@@ -382,6 +382,41 @@ TEST(MesaNaTela, TheLevelWindowAndTheHint) {
     EXPECT_EQ(quadro.pixelColor(carta.left() - 2, carta.center().y()), QColor(250, 214, 90));
 }
 
+// At 150% the window is 1200 by 900, drawn from the pictures made for twice the size, and a
+// click reaches the part painted under it.
+TEST(MesaNaTela, ALargerTableIsDrawnAndClickedAtItsSize) {
+    MesaNaTela t;
+    t.jogo.modulo.tamanhoDaMesa = 150; // as the options window leaves it
+    t.tecla(Qt::Key_F9);
+    ASSERT_EQ(t.janela.size(), QSize(1200, 900));
+    const QRect baralho = t.janela.retanguloDa(peca::kCostas2);
+    EXPECT_NEAR(baralho.width(), 71 * 1.5, 1);
+    EXPECT_NEAR(baralho.height(), 96 * 1.5, 1);
+    t.clica(baralho.center());
+    EXPECT_EQ(t.jogo.mesa.qtdJog, 10) << "the click drew a card";
+    // The first card's corner: the 2x picture brought down, not the 1x one blown up.
+    const Carta c = cartaNa(t.jogo.mesa.jogValor, t.jogo.mesa.jogNaipe, 1);
+    const char* const series[] = {"coracao", "copa", "espada", "ramo"};
+    const QString arquivo = QString("cartas/%1%2").arg(series[c.naipe - 1]).arg(c.valor);
+    const QImage tela = t.janela.grab().toImage().convertToFormat(QImage::Format_RGB32);
+    const QRect lugar = t.janela.retanguloDa(peca::cj(1));
+    const QSize canto(30, 60);
+    const QImage naTela = tela.copy(QRect(lugar.topLeft(), canto));
+    const auto distancia = [&](const QString& nome) {
+        const QImage f =
+            QImage(pastaDeImagens() + "/" + nome)
+                .convertToFormat(QImage::Format_RGB32)
+                .scaled(QSize(71, 96) * 3 / 2, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                .copy(QRect(QPoint(0, 0), canto));
+        long d = 0;
+        for (int y = 0; y < canto.height(); ++y)
+            for (int x = 0; x < canto.width(); ++x)
+                d += std::abs(qGray(naTela.pixel(x, y)) - qGray(f.pixel(x, y)));
+        return d;
+    };
+    EXPECT_LT(distancia(arquivo + "@2x.png"), distancia(arquivo + ".png"));
+}
+
 TEST(MesaNaTela, ANewMatchWithTenCardsInHandDealsNineAgain) {
     MesaNaTela t;
     t.jogo.modulo.pontosMac = 2;

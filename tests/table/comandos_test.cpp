@@ -7,6 +7,7 @@
 #include "core/pecas.h"
 #include "core/vista_nula.h"
 #include "table/comandos.h"
+#include "table/tamanho_da_mesa.h"
 
 namespace corvina {
 namespace {
@@ -96,6 +97,25 @@ TEST(Comandos, ABackBeyondTheEightIsTheLastAndTheKeysWrap) {
     t.vista.aoAbrirJanela = [&](Janela) { t.jogo.modulo.tipoCarta = 6; };
     Btn_Click(t.jogo, kBotaoCartas);
     EXPECT_EQ(t.sprite(peca::kCostas2).Picture, figuraDoVerso(6)) << "a back chosen repaints";
+}
+
+// The table's size: on a first start the largest that fits three quarters of the free height;
+// later the one chosen, as far as the screen allows.
+TEST(TamanhoDaMesa, TheLargestThatFitsOrTheOneChosen) {
+    const struct {
+        int largura, altura;
+        const char* guardado;
+        int tamanho;
+    } casos[] = {
+        {3840, 2160, "", 200},    {2560, 1440, "", 175},    {1920, 1080, "", 125},
+        {1280, 1024, "", 125},    {1280, 994, "", 100},     {1024, 768, "", 100},
+        {800, 600, "", 100},      {1280, 1024, "150", 125}, {3840, 2160, "150", 150},
+        {3840, 2160, "160", 150}, {3840, 2160, "999", 200}, {3840, 2160, "lixo", 100},
+        {1000, 2160, "", 125}, // a narrow screen: the width decides
+    };
+    for (const auto& c : casos)
+        EXPECT_EQ(tamanhoDaMesa(c.guardado, c.largura, c.altura), c.tamanho)
+            << c.largura << "x" << c.altura << " \"" << c.guardado << "\"";
 }
 
 } // namespace
