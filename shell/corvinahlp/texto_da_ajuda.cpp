@@ -95,12 +95,13 @@ da CPU diz o que ela pegou e o que descartou.</p>
 <table cellspacing="4">
 <tr><td><b>F2</b></td><td>escolher o verso das cartas</td></tr>
 <tr><td><b>F3</b></td><td>nova partida</td></tr>
-<tr><td><b>F4</b></td><td>opções: som, música e velocidade das cartas</td></tr>
-<tr><td><b>F5</b></td><td>Hall da Fama</td></tr>
+<tr><td><b>F4</b></td><td>opções: som, música, velocidade das cartas e tamanho da mesa</td></tr>
+<tr><td><b>F5</b></td><td>Hall da Fama, e nele as estatísticas de cada jogador</td></tr>
 <tr><td><b>F6</b></td><td>esta ajuda</td></tr>
 <tr><td><b>F7, F8</b></td><td>verso anterior, próximo verso</td></tr>
 <tr><td><b>F9</b></td><td>mostrar ou esconder o valor das mãos</td></tr>
 <tr><td><b>F10</b></td><td>fechar o Corvina</td></tr>
+<tr><td><b>F11</b></td><td>tela cheia (F11 ou Esc para voltar)</td></tr>
 <tr><td><b>N</b></td><td>nível do adversário e distribuição justa</td></tr>
 <tr><td><b>D</b></td><td>dica para a sua jogada</td></tr>
 <tr><td><b>Q</b></td><td>baralho de quatro cores: ouros em azul e paus em verde (ou um clique na linha

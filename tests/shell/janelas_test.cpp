@@ -16,9 +16,7 @@
 #include <QTimer>
 #include <memory>
 
-#include "apoio/janela_modal.h"
-#include "apoio/som_gravado.h"
-#include "core/ajustes.h"
+#include "apoio/mesa_com_janelas.h"
 #include "core/armazem_memoria.h"
 #include "core/novojogo.h"
 #include "core/pecas.h"
@@ -48,77 +46,11 @@
 namespace corvina {
 namespace {
 
+using teste::clica;
+using teste::digita;
+using teste::Mesa;
+using teste::parte;
 using teste::quandoAbrir;
-
-template <class T = QWidget> T* parte(QWidget* janela, const char* nome) {
-    T* p = janela->findChild<T*>(nome);
-    EXPECT_NE(p, nullptr) << nome;
-    return p;
-}
-
-// Typed as a person would, accents included.
-void digita(QWidget* w, const QString& texto) {
-    for (const QChar c : texto)
-        QTest::sendKeyEvent(QTest::Click, w, Qt::Key_unknown, QString(c), Qt::NoModifier);
-}
-
-void clica(QWidget* janela, const char* nome) {
-    QTest::mouseClick(parte(janela, nome), Qt::LeftButton);
-}
-
-struct Mesa : testing::Test {
-    QTemporaryDir pasta;
-    Settings settings{pasta.filePath("Corvina.ini")};
-    Imagens imagens{pastaDeImagens()};
-    VistaQt vista{settings};
-    OndasGravadas ondas;
-    MidiGravado midi;
-    std::string sons = pastaDosSons().toStdString();
-    Som som{sons, ondas, midi};
-    AcasoSemente acaso{7};
-    Classico classico;
-    Jogo jogo{vista, acaso, classico};
-    JanelasQt janelas{jogo, settings, &som, versaoDoPrograma()};
-    JanelaMesa janela{jogo, vista, imagens};
-
-    Mesa() {
-        vista.liga(jogo);
-        vista.som(&som);
-        vista.janelas(&janelas);
-        vista.modoDeTeste(true);
-        janelas.dono(&janela);
-        settings.grava(chaveBase(), ajuste::kPrimeiraVez, "1");
-        teste::janelasEsperadas().clear();
-    }
-    ~Mesa() override {
-        for (const auto& [nome, feito] : teste::janelasEsperadas())
-            EXPECT_TRUE(*feito) << nome << " never opened";
-    }
-    void lista(std::initializer_list<const char*> nomes) {
-        int n = 1;
-        for (const char* nome : nomes) settings.grava(chaveBase(), ajuste::jogador(n++), nome);
-    }
-    // The table up and dealt, the choice of player answered by `escolha`.
-    void abre(std::function<void(QWidget*)> escolha) {
-        Form_Load(jogo);
-        quandoAbrir("FrmNome", std::move(escolha));
-        janela.show();
-        for (int i = 0; i < 200 && jogo.mesa.qtdJog == 0; ++i) QTest::qWait(5);
-        ASSERT_EQ(jogo.mesa.qtdJog, 9) << "the first activation dealt";
-        ondas.tocadas.clear();
-        midi.comandos.clear();
-    }
-    void tecla(Qt::Key k, Qt::KeyboardModifiers m = Qt::NoModifier) {
-        QTest::keyClick(&janela, k, m);
-    }
-    std::string ajuste(const char* nome) { return settings.le(chaveBase(), nome, ""); }
-    // The files played, by name, in order.
-    std::vector<std::string> tocados() const {
-        std::vector<std::string> nomes;
-        for (const std::string& t : ondas.tocadas) nomes.push_back(t.substr(t.rfind('/') + 1));
-        return nomes;
-    }
-};
 
 TEST_F(Mesa, AFirstPlayerIsRegisteredAndPlaysInAssistedMode) {
     quandoAbrir("FrmNovoJogador", [](QWidget* w) {
@@ -241,81 +173,6 @@ TEST_F(Mesa, ABackIsChosenWithAClickAndEscapeChangesNothing) {
     EXPECT_EQ(vista.cena()[peca::kCostas2].Picture, figuraDoVerso(7)) << "the stock turned";
     EXPECT_EQ(ajuste("TipoCarta"), "") << "stored only when the table closes";
     EXPECT_EQ(tocados(), std::vector<std::string>(3, "click2.wav")) << "two keys, one back chosen";
-}
-
-TEST_F(Mesa, TheHallOfFameShowsTheBestAndCanBeWiped) {
-    lista({"Ana", "Bia", "Caio"});
-    for (const auto& [nome, saldo] : {std::pair{"Ana", "-1"}, {"Bia", "3"}, {"Caio", "1"}})
-        settings.grava(chaveJogador(nome), "Saldo", saldo);
-    abre([](QWidget* w) { clica(w, "Label9"); });
-    jogo.modulo.nomeJogador = "Caio";
-    jogo.modulo.tocarSom = true;
-    jogo.modulo.tocarMusica = true;
-    registraNoHistorico(settings, "Bia", {9000, TipoNivel::Forte, true, true, 4, 2});
-    // Sim to the hall, and then Sim to the statistics too.
-    quandoAbrir("FrmSimNao", [](QWidget* w) {
-        EXPECT_TRUE(parte<QLabel>(w, "Label1")->text().contains("Hall da Fama"));
-        quandoAbrir("FrmSimNao", [](QWidget* w2) {
-            EXPECT_TRUE(parte<QLabel>(w2, "Label1")->text().contains("estatísticas"));
-            QTest::keyClick(w2, Qt::Key_Return);
-        });
-        QTest::keyClick(w, Qt::Key_Return);
-    });
-    quandoAbrir("FrmRecords", [](QWidget* w) {
-        EXPECT_EQ(parte<QLabel>(w, "lbNome(1)")->text(), "Bia");
-        EXPECT_EQ(parte<QLabel>(w, "lbNome(2)")->text(), "Caio");
-        EXPECT_EQ(parte<QLabel>(w, "lbSaldo(3)")->text(), "-1");
-        EXPECT_EQ(parte<QLabel>(w, "lbNome(4)")->text(), ".");
-        EXPECT_TRUE(parte<QLabel>(w, "lbNome(2)")->styleSheet().contains("0,255,0"));
-        clica(w, "Image4"); // the yes/no box answers Sim
-        EXPECT_EQ(parte<QLabel>(w, "lbNome(1)")->text(), "Ana") << "all zero: the list's order";
-        QTest::keyClick(w, Qt::Key_Space);
-    });
-    tecla(Qt::Key_F5);
-    EXPECT_EQ(settings.le(chaveJogador("Bia"), "Saldo", "vazio"), "vazio");
-    EXPECT_TRUE(leHistoricoDoJogador(settings, "Bia").partidas.empty());
-    EXPECT_EQ(tocados(), (std::vector<std::string>{"click2.wav", "delete.wav"}));
-    EXPECT_EQ(midi.comandos,
-              (std::vector<std::string>{
-                  "close musica", "open " + sons + "\\passport.mid type sequencer alias musica",
-                  "play musica", "Close musica"}));
-}
-
-// From the hall of fame, the player's own history: a column per level, the chart's curves in
-// words for a screen reader, and another player chosen in the window.
-TEST_F(Mesa, TheStatisticsShowEachPlayersOwnHistory) {
-    lista({"Ana", "Bia"});
-    abre([](QWidget* w) { clica(w, "Label9"); });
-    jogo.modulo.nomeJogador = "Ana";
-    for (const bool venceu : {true, false, true})
-        registraNoHistorico(settings, "Ana", {9000, TipoNivel::Classico, false, venceu, 4, 2});
-    registraNoHistorico(settings, "Ana", {9001, TipoNivel::Forte, true, false, 1, 4});
-    quandoAbrir("FrmRecords", [](QWidget* w) {
-        clica(w, "Estatisticas");
-        QTest::keyClick(w, Qt::Key_Escape);
-    });
-    quandoAbrir("FrmEstatisticas", [](QWidget* w) {
-        const auto valor = [&](int linha, int coluna) {
-            const QByteArray nome =
-                "Valor" + QByteArray::number(linha) + "_" + QByteArray::number(coluna);
-            return parte<QLabel>(w, nome.constData())->text();
-        };
-        EXPECT_EQ(parte<QComboBox>(w, "Jogador")->currentText(), "Ana");
-        EXPECT_EQ(valor(0, 0), "3") << "three matches at Clássico";
-        EXPECT_EQ(valor(3, 0), "67%");
-        EXPECT_EQ(valor(0, 3), "1") << "one at Forte";
-        EXPECT_EQ(valor(0, 2), "—") << "none at Esperto";
-        auto* grafico = parte<QWidget>(w, "Grafico");
-        QAccessibleInterface* leitura = QAccessible::queryAccessibleInterface(grafico);
-        ASSERT_NE(leitura, nullptr);
-        EXPECT_EQ(leitura->text(QAccessible::Description),
-                  "Nas últimas 4 partidas: Clássico, 67% (2 de 3); Forte, 0% (0 de 1).");
-        parte<QComboBox>(w, "Jogador")->setCurrentIndex(1);
-        EXPECT_EQ(valor(0, 0), "—") << "Bia has played nothing";
-        EXPECT_EQ(leitura->text(QAccessible::Description), "Nenhuma partida terminada ainda.");
-        QTest::keyClick(w, Qt::Key_Escape);
-    });
-    tecla(Qt::Key_F5);
 }
 
 TEST_F(Mesa, EveryToolbarWordClicksWhenSoundIsOnAndTheAboutPictureOpensItsWindow) {

@@ -1,0 +1,85 @@
+#pragma once
+// The real table window, offscreen, for the tests that play it: dealt for the last player,
+// every other window closed at once, and Qt's mouse and key events sent straight to it.
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QTemporaryDir>
+#include <vector>
+
+#include "core/ajustes.h"
+#include "core/pecas.h"
+#include "machine/nivel_da_mesa.h"
+#include "midia/imagens.h"
+#include "players/qt/settings.h"
+#include "shell/janela_mesa.h"
+
+namespace corvina {
+
+struct MesaNaTela {
+    QTemporaryDir pasta;
+    Settings settings{pasta.filePath("Corvina.conf")};
+    Imagens imagens{pastaDeImagens()};
+    VistaQt vista{settings};
+    AcasoSemente acaso{7};
+    NivelDaMesa nivel;
+    Jogo jogo{vista, acaso, nivel};
+    JanelaMesa janela{jogo, vista, imagens};
+    std::vector<Janela> abertas;
+
+    MesaNaTela() {
+        nivel.segue(jogo.modulo);
+        vista.liga(jogo);
+        vista.modoDeTeste(true);
+        // The choice of player as the last one; the other windows close at once.
+        vista.aoAbrirJanela = [this](Janela j) {
+            abertas.push_back(j);
+            if (j == Janela::FrmNome)
+                jogo.modulo.nomeJogador = settings.le(chaveBase(), ajuste::kUltimoJogador, "");
+        };
+        settings.grava(chaveBase(), ajuste::kPrimeiraVez, "1");
+        settings.grava(chaveBase(), ajuste::kUltimoJogador, "Teste");
+        Form_Load(jogo);
+        janela.show();
+        for (int i = 0; i < 5 && jogo.mesa.qtdJog == 0; ++i) QApplication::processEvents();
+    }
+
+    void envia(QEvent::Type tipo, QPoint ponto, Qt::MouseButton botao, Qt::MouseButtons botoes) {
+        QMouseEvent e(tipo, QPointF(ponto), janela.mapToGlobal(QPointF(ponto)), botao, botoes,
+                      Qt::NoModifier);
+        QApplication::sendEvent(&janela, &e);
+    }
+    void move(QPoint p, Qt::MouseButtons botoes = Qt::NoButton) {
+        envia(QEvent::MouseMove, p, Qt::NoButton, botoes);
+    }
+    void clica(QPoint p) {
+        move(p);
+        envia(QEvent::MouseButtonPress, p, Qt::LeftButton, Qt::LeftButton);
+        envia(QEvent::MouseButtonRelease, p, Qt::LeftButton, Qt::NoButton);
+    }
+    void tecla(Qt::Key k, Qt::KeyboardModifiers m = Qt::NoModifier) {
+        QKeyEvent e(QEvent::KeyPress, k, m);
+        QApplication::sendEvent(&janela, &e);
+    }
+    // Whether the machine's row shows its faces.
+    bool macAberta() const {
+        for (int i = 1; i <= 9; ++i)
+            if (vista.cena()[peca::cm(i)].Picture >= kPrimeiroVerso) return false;
+        return true;
+    }
+    // Over the card, press, up above the row in steps, let go: the discard.
+    void descarta(int casa) {
+        const QPoint sobre = janela.retanguloDa(peca::cj(casa)).center();
+        move(sobre);
+        envia(QEvent::MouseButtonPress, sobre, Qt::LeftButton, Qt::LeftButton);
+        QPoint p = sobre;
+        for (int passo = 0; passo < 6; ++passo) {
+            p += QPoint(-10, -25);
+            move(p, Qt::LeftButton);
+        }
+        envia(QEvent::MouseButtonRelease, p, Qt::LeftButton, Qt::NoButton);
+    }
+};
+
+} // namespace corvina
