@@ -190,17 +190,23 @@ std::string escreveValor(std::string_view v) {
     return aspas ? "\"" + s + "\"" : s;
 }
 
+// Takes the next line off the text (up to CR or LF), without its leading blanks.
+std::string_view proximaLinha(std::string_view& texto) {
+    const std::size_t quebra = texto.find_first_of("\r\n");
+    std::string_view linha = texto.substr(0, quebra);
+    texto.remove_prefix(quebra == std::string_view::npos ? texto.size() : quebra + 1);
+    while (!linha.empty() && (linha.front() == ' ' || linha.front() == '\t'))
+        linha.remove_prefix(1);
+    return linha;
+}
+
 } // namespace
 
 ValoresIni leIni(std::string_view texto) {
     ValoresIni valores;
     std::string secao;
     while (!texto.empty()) {
-        const std::size_t quebra = texto.find_first_of("\r\n");
-        std::string_view linha = texto.substr(0, quebra);
-        texto.remove_prefix(quebra == std::string_view::npos ? texto.size() : quebra + 1);
-        while (!linha.empty() && (linha.front() == ' ' || linha.front() == '\t'))
-            linha.remove_prefix(1);
+        const std::string_view linha = proximaLinha(texto);
         if (linha.empty() || linha[0] == ';' || linha[0] == '#') continue;
         if (linha[0] == '[') {
             const std::size_t fecha = linha.find(']');
@@ -252,11 +258,7 @@ bool pareceIni(std::string_view texto) {
         i += n;
     }
     while (!texto.empty()) {
-        const std::size_t quebra = texto.find_first_of("\r\n");
-        std::string_view linha = texto.substr(0, quebra);
-        texto.remove_prefix(quebra == std::string_view::npos ? texto.size() : quebra + 1);
-        while (!linha.empty() && (linha.front() == ' ' || linha.front() == '\t'))
-            linha.remove_prefix(1);
+        const std::string_view linha = proximaLinha(texto);
         if (linha.empty() || linha[0] == ';' || linha[0] == '#') continue;
         if (linha[0] == '[' ? linha.find(']') == std::string_view::npos
                             : linha.find('=') == std::string_view::npos || linha[0] == '=')
