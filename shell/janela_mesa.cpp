@@ -73,7 +73,9 @@ JanelaMesa::JanelaMesa(Jogo& jogo, VistaQt& vista, const Imagens& imagens)
     setWindowTitle("Corvina");
     setWindowFlags(Qt::FramelessWindowHint | Qt::Window);
     // The size chosen, as far as this screen allows; on a first start, the largest that fits.
-    const QRect livre = screen()->availableGeometry();
+    const QScreen* tela = screen();
+    const QRect livre =
+        tela ? tela->availableGeometry() : QRect(0, 0, kLarguraDaMesa, kAlturaDaMesa);
     jogo_.modulo.tamanhoDaMesa = tamanhoDaMesa(
         vista_.leAjuste(chaveBase(), ajuste::kTamanhoDaMesa, ""), livre.width(), livre.height());
     aplicaTamanho(jogo_.modulo.tamanhoDaMesa);
@@ -170,7 +172,7 @@ void JanelaMesa::alternaTelaCheia() {
         setMinimumSize(0, 0);
         setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
         // The whole screen also where no window manager answers the request.
-        setGeometry(screen()->geometry());
+        if (const QScreen* tela = screen()) setGeometry(tela->geometry());
         showFullScreen();
     }
 }
