@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QLineSeries>
 #include <QValueAxis>
+#include <algorithm>
 
 #include "players/historico_do_jogador.h"
 #include "players/lista_de_jogadores.h"
@@ -17,6 +18,7 @@ constexpr QSize kTamanho(600, 480);
 constexpr int kColunaDosNomes = 16, kPrimeiraColuna = 190, kLarguraDaColuna = 99;
 constexpr int kTopoDoCabecalho = 80, kTopoDasLinhas = 102, kAlturaDaLinha = 18;
 const QRect kLugarDoGrafico(16, 300, 568, 138);
+constexpr int kMenorEixo = 10; // matches the chart's axis spans at least
 const QColor kOuro(230, 196, 110), kClaro(240, 236, 220);
 // A colour a level keeps on the chart, told apart also by the line's pattern.
 const std::array<QColor, kColunasDoQuadro> kCores = {QColor(240, 236, 220), QColor(150, 200, 255),
@@ -92,10 +94,13 @@ void FrmEstatisticas::mostra(const std::string& nome) {
     grafico->setMargins(QMargins(2, 2, 2, 2));
     grafico->legend()->setAlignment(Qt::AlignRight);
     grafico->legend()->setLabelColor(kClaro);
+    // As wide as the matches there are, up to the last hundred: a few matches fill the chart.
+    const int partidas = static_cast<int>(
+        std::min<std::size_t>(h.partidas.size(), static_cast<std::size_t>(kPartidasDaCurva)));
     auto* eixoX = new QValueAxis;
-    eixoX->setRange(1, kPartidasDaCurva);
+    eixoX->setRange(1, std::max(partidas, kMenorEixo));
     eixoX->setLabelFormat("%d");
-    eixoX->setTickCount(5);
+    eixoX->setTickCount(partidas > kMenorEixo ? 5 : kMenorEixo);
     auto* eixoY = new QValueAxis;
     eixoY->setRange(0, 100);
     eixoY->setLabelFormat("%d%%");
@@ -112,6 +117,7 @@ void FrmEstatisticas::mostra(const std::string& nome) {
         auto* serie = new QLineSeries;
         serie->setName(colunasDoQuadro()[i].titulo);
         serie->setPen(QPen(kCores[i], 2, kTracos[i]));
+        serie->setPointsVisible(true); // a level met once still shows its point
         for (const PontoDaCurva& p : curvas[i]) serie->append(p.partida, 100 * p.fracao);
         grafico->addSeries(serie);
         serie->attachAxis(eixoX);
