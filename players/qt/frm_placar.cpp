@@ -2,6 +2,7 @@
 
 #include <QMouseEvent>
 
+#include "core/module1.h"
 #include "core/textos.h"
 #include "players/qt/lugar_da_janela.h"
 
@@ -28,7 +29,10 @@ FrmPlacar::FrmPlacar(QWidget* dono, const Module1& modulo, const Placar& placar,
     label8_ = comando("Label8", "OK", emPixels(3780, 2100, 1215, 255), [this] { accept(); });
     label8_->setAlignment(Qt::AlignCenter);
     label8_->setStyleSheet("color: rgb(224,224,224);");
-    if (placar.pisca && abreEstatisticas) {
+    // At the end of a match, whether or not it blinks (a match won with the sound off doesn't).
+    const bool fimDaPartida =
+        placar.pontosJog == kPontosDaPartida || placar.pontosMac == kPontosDaPartida;
+    if (fimDaPartida && abreEstatisticas) {
         QLabel* l = comando(
             "Estatisticas", "<u>Estatísticas</u>", QRect(14, 140, 120, 17),
             [this, abreEstatisticas] { abreEstatisticas(this); }, 12, false);

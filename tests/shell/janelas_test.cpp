@@ -346,6 +346,13 @@ TEST(FrmPlacar, TheNamesAndPointsBlinkOnlyAtTheEndOfAMatch) {
         QTest::mouseClick(placar.findChild<QWidget*>("Label8"), Qt::LeftButton);
         EXPECT_FALSE(placar.isVisible());
     }
+    // The statistics are offered at the end of a match, blinking or not, and only then.
+    for (const auto& [jog, mac, oferece] : {std::tuple{4, 2, true}, {1, 4, true}, {3, 2, false}}) {
+        FrmPlacar placar(nullptr, m, {"", static_cast<int16>(jog), static_cast<int16>(mac), false},
+                         [](QWidget*) {});
+        EXPECT_EQ(placar.findChild<QWidget*>("Estatisticas") != nullptr, oferece)
+            << jog << " x " << mac;
+    }
 }
 
 TEST(PartidaComSom, AWholeMatchRunsWithSoundAndMusicOnAndNoAudioDevice) {
