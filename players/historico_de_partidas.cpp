@@ -47,7 +47,7 @@ std::optional<PartidaDoHistorico> leEntrada(std::string_view e) {
         p.maosPerdidas > kMaosDaPartida)
         return std::nullopt;
     p.nivel = *nivel;
-    p.justa = justa == 'j' || !trocaNaDistribuicao(p.nivel, false);
+    p.justa = !trocaNaDistribuicao(p.nivel, justa == 'j');
     p.venceu = resultado == 'v';
     return p;
 }
@@ -140,8 +140,9 @@ double Estatisticas::fracaoDeVitorias() const {
 
 void HistoricoDePartidas::registra(const PartidaDoHistorico& p) {
     partidas.push_back(p);
-    // A level that never exchanges the hands deals fairly, whatever the player had ticked.
-    partidas.back().justa = p.justa || !trocaNaDistribuicao(p.nivel, false);
+    // Fair is what the deal was: a level that never exchanges the hands deals fairly, whatever
+    // the player had ticked.
+    partidas.back().justa = !trocaNaDistribuicao(p.nivel, p.justa);
     while (partidas.size() > kPartidasNoHistorico) {
         const PartidaDoHistorico& velha = partidas.front();
         antigas[indiceDaColuna({velha.nivel, velha.justa})].soma(velha);
