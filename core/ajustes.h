@@ -34,7 +34,7 @@ inline constexpr const char* kAssistido = "Assistido";
 inline constexpr const char* kNivel = "Nivel";                         // "classico", ...
 inline constexpr const char* kDistribuicaoJusta = "DistribuicaoJusta"; // "True" / "False"
 inline constexpr const char* kQuatroCores = "QuatroCores"; // the four-colour deck, "True" / "False"
-inline constexpr const char* kTamanhoDaMesa = "TamanhoDaMesa"; // "100" .. "200", in percent
+inline constexpr const char* kTamanhoDaMesa = "TamanhoDaMesa"; // "100" .. "300", in percent
 std::string jogador(int n);                                    // Jogador1 .. Jogador50
 } // namespace ajuste
 

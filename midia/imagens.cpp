@@ -68,6 +68,10 @@ int escalaDasFiguras(qreal razao) {
     return razao > 1.0 ? 2 : 1;
 }
 
+int escalaDaMesa(qreal razao) {
+    return razao > 2.0 ? 3 : escalaDasFiguras(razao);
+}
+
 QString arquivoNaEscala(const QString& arquivo, int escala) {
     if (escala == 1) return arquivo;
     const QString sem = arquivo.chopped(4); // ".png"
@@ -182,7 +186,7 @@ Imagens::Conjunto Imagens::carregaConjunto(int escala, bool quatro, QStringList&
 }
 
 void Imagens::paraARazao(qreal razao) const {
-    escala_ = escalaDasFiguras(razao);
+    escala_ = escalaDaMesa(razao);
 }
 
 void Imagens::usaQuatroCores(bool sim) const {

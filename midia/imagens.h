@@ -16,6 +16,9 @@ namespace corvina {
 // The pictures come at 1x and at 2x ("name@2x.png"); a screen scaled above 100% gets the 2x set,
 // drawn at the same logical size, so that the cards stay sharp.
 int escalaDasFiguras(qreal razao);
+// The table's own pictures come at 3x too: a table drawn above twice its size (or at 150% on a
+// screen scaled to 150%) gets the 3x set.
+int escalaDaMesa(qreal razao);
 // "cartas/copa1.png" at scale 2 is "cartas/copa1@2x.png".
 QString arquivoNaEscala(const QString& arquivo, int escala);
 
@@ -23,7 +26,7 @@ class Imagens {
   public:
     explicit Imagens(const QString& pasta);
 
-    // Chooses the set for a screen's device pixel ratio; the 2x set is read the first time.
+    // Chooses the set for the ratio of drawn to logical pixels; a set is read the first time.
     void paraARazao(qreal razao) const;
     // The faces of the four-colour deck (diamonds blue, clubs green), or the usual ones.
     void usaQuatroCores(bool sim) const;
@@ -43,14 +46,15 @@ class Imagens {
         std::array<QPixmap, 6> botoes;
         QPixmap mesa;
     };
-    // A picture missing at 2x is the 1x one, enlarged; a four-colour face missing is the usual
-    // face; missing at 1x, a stand-in.
+    // A picture missing at 2x or 3x is the 1x one, enlarged; a four-colour face missing is the
+    // usual face; missing at 1x, a stand-in.
     Conjunto carregaConjunto(int escala, bool quatroCores, QStringList& faltando) const;
+    static constexpr int kEscalas = 3;
     static std::size_t indice(int escala, bool quatroCores) {
-        return static_cast<std::size_t>(escala - 1 + (quatroCores ? 2 : 0));
+        return static_cast<std::size_t>(escala - 1 + (quatroCores ? kEscalas : 0));
     }
     const Conjunto& conjunto() const;
-    mutable std::array<std::optional<Conjunto>, 4> conjuntos_; // by scale, then by deck
+    mutable std::array<std::optional<Conjunto>, 2 * kEscalas> conjuntos_; // by scale, then deck
     mutable int escala_ = 1;
     mutable bool quatroCores_ = false;
     QPixmap nada_;

@@ -1,5 +1,5 @@
 #pragma once
-// Where the table lies in its window: drawn at its size (100% to 200%), alone in a window of its
+// Where the table lies in its window: drawn at its size (100% to 300%), alone in a window of its
 // own size or centred on the felt colour in a full screen. Every picture, click and place for
 // the screen readers passes through here, between the window's pixels and the table's.
 

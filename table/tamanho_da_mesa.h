@@ -1,14 +1,15 @@
 #pragma once
-// How large the table is drawn: 100% to 200% of its 800 by 600 pixels, from the pictures made
-// for twice the size. A first start takes the largest size whose table fits in three quarters
-// of the screen's free height; a later one keeps the size chosen, as far as the screen allows.
+// How large the table is drawn: 100% to 300% of its 800 by 600 pixels, from the pictures made
+// for twice and three times the size. A first start takes the largest size whose table fits in
+// three quarters of the screen's free height; a later one keeps the size chosen, as far as the
+// screen allows.
 
 #include <array>
 #include <string_view>
 
 namespace corvina {
 
-inline constexpr std::array<int, 5> kTamanhosDaMesa = {100, 125, 150, 175, 200};
+inline constexpr std::array<int, 7> kTamanhosDaMesa = {100, 125, 150, 175, 200, 250, 300};
 inline constexpr int kLarguraDaMesa = 800, kAlturaDaMesa = 600;
 
 // The largest size whose table fits a screen of this free width and height (100 at least).

@@ -17,7 +17,7 @@ TEST(MesaNaTela, CardsAreDrawnFromThePicturesOfTheScreensRatio) {
     const qreal razao = t.janela.devicePixelRatioF();
     const QImage tela = t.janela.grab().toImage().convertToFormat(QImage::Format_RGB32);
     ASSERT_EQ(tela.size(), QSize(800, 600) * razao);
-    const int escala = escalaDasFiguras(razao);
+    const int escala = escalaDaMesa(razao);
 
     // The first card of the row, its left part (its edge and its value) where no card lies over.
     const Carta c = cartaNa(t.jogo.mesa.jogValor, t.jogo.mesa.jogNaipe, 1);

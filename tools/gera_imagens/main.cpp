@@ -31,6 +31,9 @@ using corvina::gera::kMesa;
 using corvina::gera::kNaipes;
 using corvina::gera::verso;
 
+// The small windows and the splash stay at their size when the table grows: 2x is for screens.
+constexpr int kEscalaDasJanelas = 2;
+
 // The toolbar, in pixels: the words are part of the pictures.
 struct Botao {
     QRect area;
@@ -175,8 +178,9 @@ int main(int argc, char** argv) {
     QDir().mkpath(pasta.filePath("cartas4"));
     QDir().mkpath(pasta.filePath("janelas"));
     bool ok = true;
-    // Each picture at 1x, and at 2x with Qt's "@2x" name beside it.
-    for (const int escala : {1, 2}) {
+    // Each picture at 1x, and at 2x with Qt's "@2x" name beside it; the table's own pictures
+    // (cards, backs, felt, lit buttons) at 3x too, for the largest table sizes.
+    for (const int escala : {1, 2, 3}) {
         usaEscala(escala);
         const QString sufixo = escala == 1 ? QString() : QString("@%1x").arg(escala);
         const auto arquivo = [&](const QString& nome) {
@@ -196,6 +200,7 @@ int main(int argc, char** argv) {
         gQuatroCores = false;
         ok &= grava(mesa(), arquivo("mesa"));
         for (int i = 1; i <= 6; ++i) ok &= grava(botaoAceso(i), arquivo(QString("btn2_%1").arg(i)));
+        if (escala > kEscalaDasJanelas) continue;
         ok &= grava(splash(), arquivo("splash"));
         std::array<QImage, 8> versos;
         for (int t = 1; t <= 8; ++t) versos[t - 1] = verso(t);
