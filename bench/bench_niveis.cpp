@@ -9,9 +9,11 @@
 
 #include "core/visao_do_nivel.h"
 #include "machine/arena.h"
+#include "machine/busca.h"
 #include "machine/distancia.h"
 #include "machine/esperto.h"
 #include "machine/forte.h"
+#include "machine/simulacao.h"
 
 namespace corvina {
 namespace {
@@ -69,6 +71,30 @@ void espertoDescarte(benchmark::State& estado) {
 }
 BENCHMARK(espertoDescarte)->Name("niveis/esperto_descarte");
 
+// One playout: a hand played to its end on kinds alone, from a world sampled off a view.
+void playout(benchmark::State& estado) {
+    const auto vs = visoes(64, kCartasNaMao);
+    std::vector<MaoSimulada> maos;
+    std::mt19937_64 sorte(7);
+    for (const auto& v : vs) {
+        const Amostrador a(v);
+        const Mundo mundo = a.sorteia(sorte);
+        MaoSimulada m;
+        m.maos[0] = a.conhecimento().mao;
+        m.maos[1] = mundo.doOutro;
+        m.mortas = a.conhecimento().naPilha;
+        m.monte = mundo.monte;
+        maos.push_back(m);
+    }
+    std::size_t i = 0;
+    for (auto _ : estado) {
+        benchmark::DoNotOptimize(jogaAteOFim(maos[i], 0, sorte));
+        i = (i + 1) % maos.size();
+    }
+    estado.SetItemsProcessed(estado.iterations());
+}
+BENCHMARK(playout)->Name("busca/playout")->Unit(benchmark::kMicrosecond);
+
 void forteDescarte(benchmark::State& estado) {
     Forte f;
     decisao(estado, f, kCasaCompra);
@@ -80,6 +106,25 @@ void forteCompra(benchmark::State& estado) {
     decisao(estado, f, kCartasNaMao);
 }
 BENCHMARK(forteCompra)->Name("niveis/forte_compra")->Unit(benchmark::kMillisecond);
+
+// The hint's search at a fixed count of worlds, time unbounded: what a world costs.
+void busca(benchmark::State& estado, std::size_t cartas) {
+    const auto vs = visoes(64, cartas);
+    const Orcamento o{.ms = 1e9, .mundos = 64};
+    std::size_t i = 0;
+    for (auto _ : estado) {
+        benchmark::DoNotOptimize(cartas == kCasaCompra ? pesaDescartes(vs[i], o).escolha
+                                                       : pesaCompra(vs[i], o).escolha);
+        i = (i + 1) % vs.size();
+    }
+    estado.SetItemsProcessed(estado.iterations());
+}
+BENCHMARK_CAPTURE(busca, descarte, kCasaCompra)
+    ->Name("busca/descarte_64_mundos")
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(busca, compra, kCartasNaMao)
+    ->Name("busca/compra_64_mundos")
+    ->Unit(benchmark::kMillisecond);
 
 // Mirrored pairs a second with 1 and 2 threads: how the arena spreads over the cores.
 void arenaEmThreads(benchmark::State& estado) {

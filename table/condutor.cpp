@@ -177,12 +177,10 @@ Recusa Condutor::pedeDica() {
 
 Tarefa<> Condutor::calculaDica() {
     const std::vector<int16> pedida = assinatura();
-    Forte& forte = forteDaDica_;
     // Named before it is awaited: GCC 12 destroys a lambda made inside a co_await twice.
-    Pensamento<Dica> pensamento(
-        vista_, [&forte, v = visaoDe(jogo_, Lado::Jog), doDescarte = jogo_.historico.topoTomado] {
-            return dicaDaVisao(v, doDescarte, forte);
-        });
+    Pensamento<Dica> pensamento(vista_, [v = visaoDe(jogo_, Lado::Jog)] {
+        return dicaDaVisao(v, Orcamento{.ms = kMsDaDica});
+    });
     const Dica d = co_await pensamento;
     // The table moved on while it was thought: that hint is for a table that is gone.
     if (d.tipo == Dica::Tipo::Nenhuma || assinatura() != pedida) co_return;

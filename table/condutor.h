@@ -10,7 +10,6 @@
 #include <vector>
 
 #include "core/jogo.h"
-#include "machine/forte.h"
 #include "table/dica.h"
 #include "table/jogada.h"
 #include "table/vista_de_cena.h"
@@ -67,7 +66,6 @@ class Condutor {
     std::optional<Tarefa<>> dicaEmCurso_;
     std::optional<Dica> dica_;
     std::vector<int16> assinaturaDaDica_;
-    Forte forteDaDica_; // never the machine's own: the two may think at once
 };
 
 } // namespace corvina

@@ -1,11 +1,12 @@
 #pragma once
-// The hint: Forte's choice for the player's own move, told and marked, never made.
+// The hint: the search's best move for the player's own turn, told with how often it wins and
+// how often the next best does, and marked; never made.
 
 #include <string>
 
 #include "core/jogo.h"
 #include "core/visao_do_nivel.h"
-#include "machine/forte.h"
+#include "machine/busca.h"
 
 namespace corvina {
 
@@ -18,8 +19,14 @@ struct Dica {
     Peca peca() const;
 };
 
-// Forte's choice on the player's view: nine cards, where to draw; ten, what to throw
-// (`doDescarte`: the tenth came from the pile). Reads only the copy it is given.
-Dica dicaDaVisao(const VisaoDoNivel& visao, bool doDescarte, Forte& forte);
+// The hint's budget: it answers well inside a fifth of a second.
+inline constexpr double kMsDaDica = 150;
+
+// The best move on the player's view: nine cards, where to draw; ten, what to throw. Reads only
+// the copy it is given.
+Dica dicaDaVisao(const VisaoDoNivel& visao, const Orcamento& orcamento);
+
+// "61%": a share of wins as the player reads it.
+std::string percentual(double ganha);
 
 } // namespace corvina

@@ -70,9 +70,11 @@ com as cartas como vieram. A mesa diz <i>Distribuição justa</i>, ou <i>A CPU p
 mãos</i> quando a troca está ligada.</p>
 
 <h2>Dica</h2>
-<p>Tecle <b>D</b>, ou clique em <i>Dica</i>, e o nível Forte mostra o que faria no seu lugar:
+<p>Tecle <b>D</b>, ou clique em <i>Dica</i>, e o jogo mostra a melhor jogada no seu lugar:
 um aro dourado marca o baralho, o descarte ou a carta a descartar, e a linha acima das suas
-cartas diz a jogada. A dica nunca joga por você, e some assim que a mesa muda.</p>
+cartas diz a jogada e quantas vezes ela ganha a mão, e a segunda melhor. A dica joga a mão
+até o fim centenas de vezes, com as cartas que você não vê sorteadas entre as que podem
+estar escondidas. A dica nunca joga por você, e some assim que a mesa muda.</p>
 
 <h2>Jogar pelo teclado</h2>
 <p>A partida inteira se joga sem o mouse. Um contorno branco tracejado marca a carta em foco.</p>

@@ -79,14 +79,17 @@ TEST(MesaNaTela, AWholeMatchIsPlayedByTheKeysAloneAndByTheScreenReadersActionsAl
             } else if (dica->tipo == Dica::Tipo::Descarte) {
                 leitor ? age("Descarte", "pegar") : t.tecla(Qt::Key_P);
             } else if (leitor) {
-                // The card whose name ends the hint's words.
+                // The card the hint's words name first (the next best comes after it).
+                int primeira = -1;
+                std::size_t onde = std::string::npos;
                 for (int i = 0; i < t.jogo.mesa.qtdJog; ++i) {
                     const std::string nome = mesa->child(i)->text(QAccessible::Name).toStdString();
-                    if (palavras.ends_with(nome)) {
-                        mesa->child(i)->actionInterface()->doAction("descartar");
-                        break;
+                    if (const std::size_t p = palavras.find(" " + nome); p < onde) {
+                        onde = p;
+                        primeira = i;
                     }
                 }
+                if (primeira >= 0) mesa->child(primeira)->actionInterface()->doAction("descartar");
             } else {
                 t.tecla(static_cast<Qt::Key>(Qt::Key_0 + dica->casa % 10));
                 t.tecla(Qt::Key_Return);
