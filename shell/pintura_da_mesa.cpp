@@ -1,5 +1,6 @@
 #include "shell/pintura_da_mesa.h"
 
+#include <QFontMetrics>
 #include <cmath>
 
 #include "core/pecas.h"
@@ -10,6 +11,7 @@ namespace corvina {
 
 namespace {
 inline constexpr int kLetra = 12, kLetraDoPlacar = 26;
+inline constexpr int kMenorLetraDaDica = 10; // still read at a glance
 
 int px(float twips) {
     return static_cast<int>(std::floor(twips / kTwipsPorPixel));
@@ -95,10 +97,16 @@ void pintaTextosDoPainel(QPainter& p, const QuadroDaMesa& q) {
         p.setPen(QColor(255, 236, 120));
         p.drawText(lugar::kLabel6, Qt::AlignCenter, QString::fromStdString(t.aviso));
     } else if (q.dica) {
-        // The advice takes the warning's line when it is free.
-        p.setFont(fonte(kLetra, true));
+        // The advice takes the warning's line when it is free; long card names and their
+        // chances are set a size smaller rather than run past it.
+        const QString texto = QString::fromStdString(q.dica->texto);
+        int tamanho = kLetra;
+        while (tamanho > kMenorLetraDaDica &&
+               QFontMetrics(fonte(tamanho, true)).horizontalAdvance(texto) > lugar::kLabel6.width())
+            --tamanho;
+        p.setFont(fonte(tamanho, true));
         p.setPen(lugar::kOuroDaDica);
-        p.drawText(lugar::kLabel6, Qt::AlignCenter, QString::fromStdString(q.dica->texto));
+        p.drawText(lugar::kLabel6, Qt::AlignCenter, texto);
     }
     p.setFont(fonte(kLetraDoPlacar, true));
     p.setPen(QColor(250, 250, 240));
