@@ -113,8 +113,8 @@ void busca(benchmark::State& estado, std::size_t cartas) {
     const Orcamento o{.ms = 1e9, .mundos = 64};
     std::size_t i = 0;
     for (auto _ : estado) {
-        benchmark::DoNotOptimize(cartas == kCasaCompra ? pesaDescartes(vs[i], o).escolha
-                                                       : pesaCompra(vs[i], o).escolha);
+        benchmark::DoNotOptimize(cartas == kCasaCompra ? pesaDescartes(vs[i], o).mundos
+                                                       : pesaCompra(vs[i], o).mundos);
         i = (i + 1) % vs.size();
     }
     estado.SetItemsProcessed(estado.iterations());

@@ -2,8 +2,7 @@
 
 #include <algorithm>
 #include <chrono>
-#include <cmath>
-#include <memory>
+#include <functional>
 #include <optional>
 
 #include "core/mesa.h"
@@ -17,8 +16,8 @@ namespace {
 
 using Relogio = std::chrono::steady_clock;
 
-// The seed of one decision: the level's own, mixed with what it sees, so that a decision can be
-// replayed from its view alone whatever was decided before it.
+// The seed of one search: the budget's, mixed with what it sees, so that a search can be
+// replayed from its view alone whatever was searched before it.
 std::uint64_t sementeDaDecisao(const VisaoDoNivel& v, std::uint64_t semente) {
     std::uint64_t h = 0xcbf29ce484222325ULL ^ semente;
     const auto mistura = [&h](std::uint64_t x) { h = (h ^ x) * 0x100000001b3ULL; };
@@ -27,15 +26,6 @@ std::uint64_t sementeDaDecisao(const VisaoDoNivel& v, std::uint64_t semente) {
     for (const Carta c : v.descartes) mistura(static_cast<std::uint64_t>(tipoDaCarta(c)));
     mistura(static_cast<std::uint64_t>(v.monte));
     return h;
-}
-
-Copias podemVirA(const Copias& mao, const Copias& mortas) {
-    Copias p{};
-    for (int t = 0; t < kTipos; ++t) {
-        const int livres = 2 - mao[t] - mortas[t];
-        p[t] = static_cast<std::uint8_t>(livres > 0 ? livres : 0);
-    }
-    return p;
 }
 
 // One move as the seat would start it, before the other seat's turn; when the move itself ends
@@ -49,18 +39,16 @@ struct Candidato {
 };
 
 // Every candidate in every world, each world once with one stream of chance for all of them.
-Pesagem pesa(const VisaoDoNivel& v, const Orcamento& o, const FonteDeMundos& fonte,
-             const MaoSimulada& base, const std::vector<Candidato>& candidatos) {
+Pesagem pesa(const VisaoDoNivel& v, const Orcamento& o, const MaoSimulada& base,
+             const std::vector<Candidato>& candidatos) {
+    const Amostrador amostrador(v);
     const auto fim = Relogio::now() + std::chrono::duration_cast<Relogio::duration>(
                                           std::chrono::duration<double, std::milli>(o.ms));
     std::mt19937_64 sorte(sementeDaDecisao(v, o.semente));
-    // Each candidate's wins, and its difference to the first (Forte's) in each world.
-    std::vector<double> soma(candidatos.size(), 0.0), dif(candidatos.size(), 0.0),
-        dif2(candidatos.size(), 0.0);
-    std::vector<double> r(candidatos.size());
+    std::vector<double> soma(candidatos.size(), 0.0);
     Pesagem p;
     do {
-        const Mundo mundo = fonte(sorte);
+        const Mundo mundo = amostrador.sorteia(sorte);
         const std::uint64_t daJogada = sorte();
         for (std::size_t i = 0; i < candidatos.size(); ++i) {
             MaoSimulada m = base;
@@ -68,50 +56,31 @@ Pesagem pesa(const VisaoDoNivel& v, const Orcamento& o, const FonteDeMundos& fon
             m.monte = mundo.monte;
             std::mt19937_64 acaso(daJogada);
             const std::optional<double> fimJa = candidatos[i].inicio(m, acaso);
-            r[i] = fimJa ? *fimJa : jogaAteOFim(std::move(m), 1, acaso);
-            soma[i] += r[i];
-            dif[i] += r[i] - r[0];
-            dif2[i] += (r[i] - r[0]) * (r[i] - r[0]);
+            soma[i] += fimJa ? *fimJa : jogaAteOFim(std::move(m), 1, acaso);
         }
         ++p.mundos;
     } while ((o.mundos == 0 || p.mundos < o.mundos) && Relogio::now() < fim &&
              !(o.parar && o.parar->load(std::memory_order_relaxed)));
-    const double n = p.mundos;
-    p.escolha = candidatos[0].casa;
-    double melhor = 0;
-    for (std::size_t i = 0; i < candidatos.size(); ++i) {
-        p.chances.push_back({candidatos[i].casa, soma[i] / n});
-        if (i == 0) continue;
-        const double media = dif[i] / n;
-        const double erro = std::sqrt(std::max(dif2[i] / n - media * media, 0.0) / n);
-        if (media > melhor && media > o.confianca * erro) {
-            melhor = media;
-            p.escolha = candidatos[i].casa;
-        }
-    }
+    for (std::size_t i = 0; i < candidatos.size(); ++i)
+        p.chances.push_back({candidatos[i].casa, soma[i] / p.mundos});
     std::stable_sort(p.chances.begin(), p.chances.end(),
                      [](const Chance& a, const Chance& b) { return a.ganha > b.ganha; });
     return p;
 }
 
-FonteDeMundos doAmostrador(const VisaoDoNivel& v) {
-    auto amostrador = std::make_shared<Amostrador>(v);
-    return [amostrador](std::mt19937_64& sorte) { return amostrador->sorteia(sorte); };
-}
-
 } // namespace
 
-Pesagem pesaDescartes(const VisaoDoNivel& v, const Orcamento& o, const FonteDeMundos& fonte) {
+Pesagem pesaDescartes(const VisaoDoNivel& v, const Orcamento& o) {
     const Conhecimento k = conhecimentoDe(v);
     const std::vector<Avaliacao> ordem = Esperto::avaliaDescartes(v.mao, k);
     if (ordem.empty()) return {};
-    if (ordem.front().vence) return {{{ordem.front().casa, 1.0}}, 0, ordem.front().casa};
+    if (ordem.front().vence) return {{{ordem.front().casa, 1.0}}, 0};
     MaoSimulada base;
     base.maos[0] = k.mao;
     base.mortas = k.naPilha; // the top is buried by the throw
     std::vector<Candidato> candidatos;
     Copias vistos{};
-    // Forte's choice first: the search must be sure to overrule it. Then Esperto's.
+    // Forte's choice is always weighed, then Esperto's best.
     std::vector<int16> casas = {Forte().descarte(v, false)};
     for (const Avaliacao& a : ordem) casas.push_back(a.casa);
     for (const int16 casa : casas) {
@@ -124,11 +93,11 @@ Pesagem pesaDescartes(const VisaoDoNivel& v, const Orcamento& o, const FonteDeMu
                               }});
         if (static_cast<int>(candidatos.size()) == o.candidatos) break;
     }
-    return pesa(v, o, fonte, base, candidatos);
+    return pesa(v, o, base, candidatos);
 }
 
-Pesagem pesaCompra(const VisaoDoNivel& v, const Orcamento& o, const FonteDeMundos& fonte) {
-    if (!v.topo) return {{{kCasaCompra, 0.5}}, 0, kCasaCompra};
+Pesagem pesaCompra(const VisaoDoNivel& v, const Orcamento& o) {
+    if (!v.topo) return {{{kCasaCompra, 0.5}}, 0};
     const Conhecimento k = conhecimentoDe(v);
     const int topo = tipoDaCarta(*v.topo);
     MaoSimulada base;
@@ -155,18 +124,7 @@ Pesagem pesaCompra(const VisaoDoNivel& v, const Orcamento& o, const FonteDeMundo
                                m.monte.pop_back();
                                return joga(m, sorte);
                            }};
-    // Forte's choice first: the search must be sure to overrule it.
-    const bool previstaPega = Forte().pegaDescarte(v);
-    return pesa(v, o, fonte, base,
-                previstaPega ? std::vector{pega, compra} : std::vector{compra, pega});
-}
-
-Pesagem pesaDescartes(const VisaoDoNivel& v, const Orcamento& o) {
-    return pesaDescartes(v, o, doAmostrador(v));
-}
-
-Pesagem pesaCompra(const VisaoDoNivel& v, const Orcamento& o) {
-    return pesaCompra(v, o, doAmostrador(v));
+    return pesa(v, o, base, {pega, compra});
 }
 
 } // namespace corvina

@@ -7,7 +7,6 @@
 
 #include <atomic>
 #include <cstdint>
-#include <functional>
 #include <random>
 #include <vector>
 
@@ -22,10 +21,6 @@ struct Orcamento {
     std::uint64_t semente = 0;                // mixed with the view: a decision is replayable
     const std::atomic<bool>* parar = nullptr; // stops it between two worlds
     int candidatos = 5;                       // throws weighed: Forte's, then Esperto's best
-    // How sure the search must be, in standard errors of the difference over the same worlds,
-    // to overrule Forte's two-draw look-ahead in `escolha`: the playouts are noisy, the
-    // look-ahead is not.
-    double confianca = 3.0;
 };
 
 // One move and its share of wins over the worlds played (a hand without winner counts half).
@@ -37,21 +32,11 @@ struct Chance {
 struct Pesagem {
     std::vector<Chance> chances; // best first
     int mundos = 0;              // worlds played
-    int16 escolha = 0;           // the move chosen (a casa as in Chance)
 };
-
-// Where the worlds come from: sampled from a seat's view, or, for analysis, the real one.
-using FonteDeMundos = std::function<Mundo(std::mt19937_64&)>;
 
 // Ten cards in view: the throws, weighed.
 Pesagem pesaDescartes(const VisaoDoNivel& visao, const Orcamento& orcamento);
 // Nine cards and a top that may be taken: take it (casa 0) or draw (casa kCasaCompra).
 Pesagem pesaCompra(const VisaoDoNivel& visao, const Orcamento& orcamento);
-
-// The same, on worlds from `fonte` instead of the view's own sampler.
-Pesagem pesaDescartes(const VisaoDoNivel& visao, const Orcamento& orcamento,
-                      const FonteDeMundos& fonte);
-Pesagem pesaCompra(const VisaoDoNivel& visao, const Orcamento& orcamento,
-                   const FonteDeMundos& fonte);
 
 } // namespace corvina

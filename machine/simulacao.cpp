@@ -6,7 +6,8 @@ namespace {
 
 inline constexpr double kVence0 = 1.0, kVence1 = 0.0, kNinguem = 0.5;
 
-// What may still come to a seat: copies neither in its hand nor dead in the pile.
+} // namespace
+
 Copias podemVirA(const Copias& mao, const Copias& mortas) {
     Copias p{};
     for (int t = 0; t < kTipos; ++t) {
@@ -15,8 +16,6 @@ Copias podemVirA(const Copias& mao, const Copias& mortas) {
     }
     return p;
 }
-
-} // namespace
 
 Jogada10 descarteRapido(const Copias& dez, const Copias& podemVir, std::mt19937_64& sorte) {
     const Distancia d = distancia(dez, podemVir, false);

@@ -25,6 +25,9 @@ struct MaoSimulada {
 // stock runs out first.
 double jogaAteOFim(MaoSimulada mao, int vez, std::mt19937_64& sorte);
 
+// What may still come to a seat: copies neither in its hand nor dead in the pile.
+Copias podemVirA(const Copias& mao, const Copias& mortas);
+
 // The quick rule's throw from ten cards: the kind to throw, and what the nine left lack.
 struct Jogada10 {
     int tipo = 0;
