@@ -14,6 +14,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <functional>
 #include <memory>
 
 #include "apoio/mesa_com_janelas.h"
@@ -175,36 +176,31 @@ TEST_F(Mesa, ABackIsChosenWithAClickAndEscapeChangesNothing) {
     EXPECT_EQ(tocados(), std::vector<std::string>(3, "click2.wav")) << "two keys, one back chosen";
 }
 
-TEST_F(Mesa, EveryToolbarWordClicksWhenSoundIsOnAndTheAboutPictureOpensItsWindow) {
+// Each toolbar word and the picture of the title open their window (the click's sound and
+// the keys are the commands' own, tested with them).
+TEST_F(Mesa, EveryToolbarWordAndTheTitlesPictureOpenTheirWindow) {
     lista({"Ana"});
     abre([](QWidget* w) { clica(w, "Label9"); });
-    jogo.modulo.tocarSom = true;
     const struct {
-        int x;
+        QPoint ponto;
         const char* janela;
-        const char* fecha; // the part that closes it
-    } botoes[] = {{210, "FrmOpc", "Label5"}, {340, "FrmRecords", "Image3"}, {470, "frmtipos", ""}};
+        const char* fecha; // the part that closes it; Escape when none
+    } botoes[] = {{{210, 95}, "FrmOpc", "Label5"},
+                  {{340, 95}, "FrmRecords", "Image3"},
+                  {{470, 95}, "frmtipos", ""},
+                  {{690, 40}, "FrmSobre", "Command1"}};
     for (const auto& b : botoes) {
+        bool abriu = false;
         quandoAbrir(b.janela, [&](QWidget* w) {
+            abriu = true;
             if (*b.fecha)
                 clica(w, b.fecha);
             else
                 QTest::keyClick(w, Qt::Key_Escape);
         });
-        QTest::mouseClick(&janela, Qt::LeftButton, {}, QPoint(b.x, 95));
+        QTest::mouseClick(&janela, Qt::LeftButton, {}, b.ponto);
+        EXPECT_TRUE(abriu) << b.janela;
     }
-    EXPECT_EQ(tocados(), std::vector<std::string>(3, "click2.wav"));
-    jogo.modulo.tocarSom = false;
-    quandoAbrir("FrmRecords", [](QWidget* w) { QTest::keyClick(w, Qt::Key_Escape); });
-    QTest::mouseClick(&janela, Qt::LeftButton, {}, QPoint(340, 95));
-    EXPECT_EQ(tocados().size(), 3u) << "sound off: silence";
-
-    quandoAbrir("FrmSobre", [](QWidget* w) {
-        EXPECT_EQ(w->windowTitle(), " Sobre o Corvina");
-        EXPECT_EQ(parte<QLabel>(w, "Label1")->text(), "Lunaris - Corvina  3.7.4");
-        clica(w, "Command1");
-    });
-    QTest::mouseClick(&janela, Qt::LeftButton, {}, QPoint(690, 40));
 }
 
 // Each text of a window, at the default font size, inside its own place and off the window's
@@ -269,44 +265,44 @@ TEST(Ajuda, EscapeOrCtrlQClosesIt) {
     }
 }
 
-TEST(FrmSimNao, EnterAnswersYesAndEscapeNo) {
+// Enter on the box answers Sim, Escape Não; on Não, reached by Tab, Enter and Space answer Não,
+// as a click does, and as a screen reader's press of the button it sees.
+TEST(FrmSimNao, EachWayToAnswer) {
+    const auto tabAteNao = [](QWidget* w) {
+        auto* nao = parte<Comando>(w, "Label3");
+        for (int i = 0; i < 3 && !nao->focoDoTeclado(); ++i)
+            QTest::keyClick(w->focusWidget() ? w->focusWidget() : w, Qt::Key_Tab);
+        EXPECT_TRUE(nao->focoDoTeclado());
+        return nao;
+    };
     const struct {
-        Qt::Key tecla;
-        bool resposta;
-    } casos[] = {{Qt::Key_Return, true}, {Qt::Key_Escape, false}, {Qt::Key_Enter, true}};
+        const char* como;
+        std::function<void(QWidget*)> responde;
+        bool sim;
+    } casos[] = {
+        {"Enter", [](QWidget* w) { QTest::keyClick(w, Qt::Key_Return); }, true},
+        {"keypad Enter", [](QWidget* w) { QTest::keyClick(w, Qt::Key_Enter); }, true},
+        {"Escape", [](QWidget* w) { QTest::keyClick(w, Qt::Key_Escape); }, false},
+        {"click", [](QWidget* w) { clica(w, "Label3"); }, false},
+        {"Tab, Enter", [&](QWidget* w) { QTest::keyClick(tabAteNao(w), Qt::Key_Return); }, false},
+        {"Tab, Space", [&](QWidget* w) { QTest::keyClick(tabAteNao(w), Qt::Key_Space); }, false},
+        {"screen reader",
+         [](QWidget* w) {
+             QAccessibleInterface* nao =
+                 QAccessible::queryAccessibleInterface(parte<Comando>(w, "Label3"));
+             if (!nao || !nao->actionInterface() || nao->role() != QAccessible::Button ||
+                 nao->text(QAccessible::Name) != "Não") { // a failure must still close the box
+                 ADD_FAILURE() << "Não is no accessible button";
+                 return clica(w, "Label3");
+             }
+             nao->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+         },
+         false},
+    };
     for (const auto& c : casos) {
-        quandoAbrir("FrmSimNao", [&](QWidget* w) { QTest::keyClick(w, c.tecla); });
-        EXPECT_EQ(SimNao(nullptr, "Pergunta?", "Título"), c.resposta);
+        quandoAbrir("FrmSimNao", c.responde);
+        EXPECT_EQ(SimNao(nullptr, "Pergunta?", "Título"), c.sim) << c.como;
     }
-    quandoAbrir("FrmSimNao", [](QWidget* w) { clica(w, "Label3"); });
-    EXPECT_FALSE(SimNao(nullptr, "Pergunta?", "Título"));
-}
-
-TEST(FrmSimNao, TabReachesACommandThatEnterOrSpacePressesAndToolsSeeButtons) {
-    // Enter on the window answers Sim; on Não, reached by Tab, it answers Não.
-    for (const Qt::Key k : {Qt::Key_Return, Qt::Key_Space}) {
-        quandoAbrir("FrmSimNao", [&](QWidget* w) {
-            auto* nao = parte<Comando>(w, "Label3");
-            for (int i = 0; i < 3 && !nao->focoDoTeclado(); ++i)
-                QTest::keyClick(w->focusWidget() ? w->focusWidget() : w, Qt::Key_Tab);
-            EXPECT_TRUE(nao->focoDoTeclado());
-            QTest::keyClick(nao, k);
-        });
-        EXPECT_FALSE(SimNao(nullptr, "Pergunta?", "Título"))
-            << QKeySequence(k).toString().toStdString();
-    }
-    quandoAbrir("FrmSimNao", [](QWidget* w) {
-        QAccessibleInterface* nao =
-            QAccessible::queryAccessibleInterface(parte<Comando>(w, "Label3"));
-        if (!nao || !nao->actionInterface()) { // a failure must still close the box
-            ADD_FAILURE() << "Não is no accessible button";
-            return clica(w, "Label3");
-        }
-        EXPECT_EQ(nao->role(), QAccessible::Button);
-        EXPECT_EQ(nao->text(QAccessible::Name), "Não");
-        nao->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-    });
-    EXPECT_FALSE(SimNao(nullptr, "Pergunta?", "Título")) << "the tool's press answers Não";
 }
 
 // In the level window too, Space presses the command Tab reached; it never ticks the box.
