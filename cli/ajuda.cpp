@@ -65,7 +65,9 @@ Requests and answers:
          each shuffle played twice with the seats swapped and no exchange; matches are first
          to 4 in each seat's run of hands; shareA is of decided hands, with its 95%
          interval taken over pairs (the two hands of a pair share their deal); progress
-         on standard error, and an interrupt answers for the pairs played
+         on standard error, and an interrupt answers for the pairs played. L may also be
+         "vidente", the seer: it plays by the hint's search on the real hidden cards, to
+         measure how far the levels stand from a player who sees everything
 
 A request that is not valid JSON, names an unknown op, misses a field, or holds a bad card
 or a hand of the wrong size is answered {"error":"..."}, and the next line is read.

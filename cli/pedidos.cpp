@@ -245,10 +245,16 @@ json autojogo(const Pedido& p) {
     return resposta;
 }
 
+// A level, or "vidente": the seer that sees every card, for the arena alone.
+Assento assentoDaArena(const Pedido& p, const char* nome) {
+    if (texto(p, nome) == "vidente") return Assento::vidente();
+    return tipoDoNivel(p, nome);
+}
+
 json arena(const Pedido& p) {
     PedidoArena a;
-    a.a = tipoDoNivel(p, "a");
-    a.b = tipoDoNivel(p, "b");
+    a.a = assentoDaArena(p, "a");
+    a.b = assentoDaArena(p, "b");
     a.pares = inteiro(p, "pairs", 1, 10000000);
     a.semente = static_cast<std::uint64_t>(inteiro(p, "seed", 0, INT64_MAX));
     if (p.contains("from")) a.primeiro = inteiro(p, "from", 0, INT64_MAX / 2);

@@ -13,6 +13,7 @@
 #include "core/textos.h"
 #include "core/vista_nula.h"
 #include "machine/autojogador.h"
+#include "machine/vidente.h"
 
 namespace corvina {
 
@@ -59,13 +60,29 @@ struct Tempos {
     std::vector<float> a, b;
 };
 
+std::unique_ptr<Nivel> criaAssento(const Assento& a) {
+    if (a.seVidente) return std::make_unique<Vidente>();
+    return criaNivel(a.nivel);
+}
+
+// Shows the dealt table to the seer in `lado`, if a seer sits there.
+void mostraAoVidente(Nivel& n, const Jogo& jogo, Lado lado) {
+    if (auto* v = dynamic_cast<Vidente*>(&n)) v->ve(jogo, lado);
+}
+
 Par jogaPar(const PedidoArena& p, long i, Tempos& t) {
     const std::uint64_t semente = sementeDoPar(p.semente, i);
-    const auto la = criaNivel(p.a), lb = criaNivel(p.b);
+    const auto la = criaAssento(p.a), lb = criaAssento(p.b);
     NivelCronometrado a(*la, t.a), b(*lb, t.b);
+    const auto mostra = [](Nivel& jog, Nivel& mac) {
+        return [&jog, &mac](const Jogo& jogo) {
+            mostraAoVidente(jog, jogo, Lado::Jog);
+            mostraAoVidente(mac, jogo, Lado::Mac);
+        };
+    };
     Par r;
-    r.aNaFrente = jogaUmaMao(a, b, semente);
-    r.bNaFrente = jogaUmaMao(b, a, semente);
+    r.aNaFrente = jogaUmaMao(a, b, semente, mostra(*la, *lb));
+    r.bNaFrente = jogaUmaMao(b, a, semente, mostra(*lb, *la));
     r.feito = true;
     return r;
 }
@@ -102,7 +119,8 @@ std::uint64_t sementeDoPar(std::uint64_t semente, long i) {
     return z ^ (z >> 31);
 }
 
-Vencedor jogaUmaMao(Nivel& jog, Nivel& mac, std::uint64_t semente) {
+Vencedor jogaUmaMao(Nivel& jog, Nivel& mac, std::uint64_t semente,
+                    const std::function<void(const Jogo&)>& aoDar) {
     VistaNula vista;
     AcasoSemente acaso(semente);
     Jogo jogo(vista, acaso, mac);
@@ -119,6 +137,7 @@ Vencedor jogaUmaMao(Nivel& jog, Nivel& mac, std::uint64_t semente) {
         return kBotaoOk;
     };
     novojogo(jogo);
+    if (aoDar) aoDar(jogo);
     for (long turnos = 0; !fim; ++turnos) {
         if (turnos > kTurnosPorMaoNoMaximo)
             throw std::logic_error("a hand of the arena never ended");

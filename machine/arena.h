@@ -8,6 +8,7 @@
 #include <functional>
 #include <vector>
 
+#include "core/jogo.h"
 #include "core/nivel.h"
 #include "machine/niveis.h"
 
@@ -16,11 +17,24 @@ namespace corvina {
 enum class Vencedor { Jog, Mac, Ninguem };
 
 // One hand from the shuffle of `semente`, no exchange: `jog` in the player's seat (who moves
-// first), `mac` in the machine's.
-Vencedor jogaUmaMao(Nivel& jog, Nivel& mac, std::uint64_t semente);
+// first), `mac` in the machine's. `aoDar` is told of the table once it is dealt.
+Vencedor jogaUmaMao(Nivel& jog, Nivel& mac, std::uint64_t semente,
+                    const std::function<void(const Jogo&)>& aoDar = {});
+
+// Who sits in a seat of the arena: a level, or the seer (Vidente), who sees every card.
+struct Assento {
+    Assento(TipoNivel n = TipoNivel::Classico) : nivel(n) {} // implicit: a level is a seat
+    static Assento vidente() {
+        Assento a;
+        a.seVidente = true;
+        return a;
+    }
+    TipoNivel nivel;
+    bool seVidente = false;
+};
 
 struct PedidoArena {
-    TipoNivel a = TipoNivel::Forte, b = TipoNivel::Classico;
+    Assento a = TipoNivel::Forte, b = TipoNivel::Classico;
     std::uint64_t semente = 1;
     long primeiro = 0; // pairs primeiro .. primeiro + pares - 1: ranges split a long run
     long pares = 0;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <chrono>
 #include <functional>
+#include <memory>
 #include <optional>
 
 #include "core/mesa.h"
@@ -39,16 +40,15 @@ struct Candidato {
 };
 
 // Every candidate in every world, each world once with one stream of chance for all of them.
-Pesagem pesa(const VisaoDoNivel& v, const Orcamento& o, const MaoSimulada& base,
-             const std::vector<Candidato>& candidatos) {
-    const Amostrador amostrador(v);
+Pesagem pesa(const VisaoDoNivel& v, const Orcamento& o, const FonteDeMundos& fonte,
+             const MaoSimulada& base, const std::vector<Candidato>& candidatos) {
     const auto fim = Relogio::now() + std::chrono::duration_cast<Relogio::duration>(
                                           std::chrono::duration<double, std::milli>(o.ms));
     std::mt19937_64 sorte(sementeDaDecisao(v, o.semente));
     std::vector<double> soma(candidatos.size(), 0.0);
     Pesagem p;
     do {
-        const Mundo mundo = amostrador.sorteia(sorte);
+        const Mundo mundo = fonte(sorte);
         const std::uint64_t daJogada = sorte();
         for (std::size_t i = 0; i < candidatos.size(); ++i) {
             MaoSimulada m = base;
@@ -70,7 +70,7 @@ Pesagem pesa(const VisaoDoNivel& v, const Orcamento& o, const MaoSimulada& base,
 
 } // namespace
 
-Pesagem pesaDescartes(const VisaoDoNivel& v, const Orcamento& o) {
+Pesagem pesaDescartes(const VisaoDoNivel& v, const Orcamento& o, const FonteDeMundos& fonte) {
     const Conhecimento k = conhecimentoDe(v);
     const std::vector<Avaliacao> ordem = Esperto::avaliaDescartes(v.mao, k);
     if (ordem.empty()) return {};
@@ -93,10 +93,10 @@ Pesagem pesaDescartes(const VisaoDoNivel& v, const Orcamento& o) {
                               }});
         if (static_cast<int>(candidatos.size()) == o.candidatos) break;
     }
-    return pesa(v, o, base, candidatos);
+    return pesa(v, o, fonte, base, candidatos);
 }
 
-Pesagem pesaCompra(const VisaoDoNivel& v, const Orcamento& o) {
+Pesagem pesaCompra(const VisaoDoNivel& v, const Orcamento& o, const FonteDeMundos& fonte) {
     if (!v.topo) return {{{kCasaCompra, 0.5}}, 0};
     const Conhecimento k = conhecimentoDe(v);
     const int topo = tipoDaCarta(*v.topo);
@@ -124,7 +124,24 @@ Pesagem pesaCompra(const VisaoDoNivel& v, const Orcamento& o) {
                                m.monte.pop_back();
                                return joga(m, sorte);
                            }};
-    return pesa(v, o, base, {pega, compra});
+    return pesa(v, o, fonte, base, {pega, compra});
+}
+
+namespace {
+
+FonteDeMundos doAmostrador(const VisaoDoNivel& v) {
+    auto amostrador = std::make_shared<const Amostrador>(v);
+    return [amostrador](std::mt19937_64& sorte) { return amostrador->sorteia(sorte); };
+}
+
+} // namespace
+
+Pesagem pesaDescartes(const VisaoDoNivel& v, const Orcamento& o) {
+    return pesaDescartes(v, o, doAmostrador(v));
+}
+
+Pesagem pesaCompra(const VisaoDoNivel& v, const Orcamento& o) {
+    return pesaCompra(v, o, doAmostrador(v));
 }
 
 } // namespace corvina

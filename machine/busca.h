@@ -7,6 +7,7 @@
 
 #include <atomic>
 #include <cstdint>
+#include <functional>
 #include <random>
 #include <vector>
 
@@ -34,9 +35,17 @@ struct Pesagem {
     int mundos = 0;              // worlds played
 };
 
+// Where the worlds come from: the view's own sampler, or, for analysis only, the real table.
+using FonteDeMundos = std::function<Mundo(std::mt19937_64&)>;
+
 // Ten cards in view: the throws, weighed.
 Pesagem pesaDescartes(const VisaoDoNivel& visao, const Orcamento& orcamento);
 // Nine cards and a top that may be taken: take it (casa 0) or draw (casa kCasaCompra).
 Pesagem pesaCompra(const VisaoDoNivel& visao, const Orcamento& orcamento);
+// The same on worlds from `fonte`.
+Pesagem pesaDescartes(const VisaoDoNivel& visao, const Orcamento& orcamento,
+                      const FonteDeMundos& fonte);
+Pesagem pesaCompra(const VisaoDoNivel& visao, const Orcamento& orcamento,
+                   const FonteDeMundos& fonte);
 
 } // namespace corvina

@@ -1,7 +1,9 @@
 // The search behind the hint: its sampler, checked at every decision of seeded hands against the
-// real table it must never read, and the search's replay from a seed.
+// real table it must never read; the search's replay from a seed; the seer that reads it.
 
 #include <gtest/gtest.h>
+
+#include "apoio/maos.h"
 
 #include <algorithm>
 #include <utility>
@@ -12,6 +14,7 @@
 #include "machine/autojogador.h"
 #include "machine/busca.h"
 #include "machine/esperto.h"
+#include "machine/vidente.h"
 
 namespace corvina {
 namespace {
@@ -115,6 +118,29 @@ TEST(Busca, TheSameSeedAndWorldsGiveTheSameAnswerAndMoreWorldsComeOnlyWithTime) 
     const Pesagem c = pesaCompra(v, {.ms = 1e9, .parar = &parar});
     EXPECT_EQ(c.mundos, 1);
     EXPECT_FALSE(c.chances.empty());
+}
+
+// The seer reads the real other hand: of its two strays it never throws the one that hands the
+// other side the hand at once, which no view of the table shows.
+TEST(Vidente, NeverFeedsTheHandItSees) {
+    const struct {
+        const char* outro;
+        int16 alimenta; // the slot of the stray the other hand waits for
+    } casos[] = {
+        {"4/3 5/3 8/1 8/2 8/4 1/1 2/1 3/1 11/4", 9},    // the six of diamonds
+        {"12/1 11/1 8/1 8/2 8/4 1/1 2/1 3/1 11/4", 10}, // the king of hearts
+    };
+    for (const auto& c : casos) {
+        VistaNula vista;
+        AcasoSemente acaso(1);
+        Esperto esperto;
+        Jogo jogo(vista, acaso, esperto);
+        teste::armaMesa(jogo.mesa, jogo.modulo.qtdDescarte, c.outro,
+                        "7/1 7/2 7/3 1/4 2/4 3/4 9/2 10/2 6/3 13/1", "", "13/3 13/4");
+        Vidente vidente;
+        vidente.ve(jogo, Lado::Mac);
+        EXPECT_NE(vidente.descarte(visaoDe(jogo, Lado::Mac), false), c.alimenta) << c.outro;
+    }
 }
 
 } // namespace
