@@ -67,7 +67,9 @@ Requests and answers:
          interval taken over pairs (the two hands of a pair share their deal); progress
          on standard error, and an interrupt answers for the pairs played. L may also be
          "vidente", the seer: it plays by the hint's search on the real hidden cards, to
-         measure how far the levels stand from a player who sees everything
+         measure how far the levels stand from a player who sees everything. A hand past
+         1,000 turns (seats that only take each other's throws) is stopped and counted
+         among noWinner, and as "endless":N
 
 A request that is not valid JSON, names an unknown op, misses a field, or holds a bad card
 or a hand of the wrong size is answered {"error":"..."}, and the next line is read.

@@ -267,6 +267,7 @@ json arena(const Pedido& p) {
         {"msP99A", r.msP99A},      {"msMeanB", r.msMeanB},    {"msP99B", r.msP99B},
         {"pairs", r.pares},        {"from", a.primeiro}};
     if (r.interrompida) resposta["interrupted"] = true;
+    if (r.semFim > 0) resposta["endless"] = r.semFim; // among noWinner: stopped for their length
     if (r.threads < a.threads) resposta["threads"] = r.threads; // the system gave fewer
     return resposta;
 }

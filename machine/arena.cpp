@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <chrono>
 #include <cmath>
+#include <exception>
 #include <mutex>
 #include <optional>
-#include <stdexcept>
 #include <system_error>
 #include <thread>
 
@@ -19,7 +19,11 @@ namespace corvina {
 
 namespace {
 
-inline constexpr long kTurnosPorMaoNoMaximo = 10000;
+inline constexpr long kTurnosPorMaoNoMaximo = 1000; // a hand from the stock lasts under 100
+
+constexpr bool decidida(Vencedor v) {
+    return v == Vencedor::Jog || v == Vencedor::Mac;
+}
 inline constexpr double kZ95 = 1.959964;
 inline constexpr double kPercentil = 0.99;
 
@@ -91,7 +95,7 @@ Par jogaPar(const PedidoArena& p, long i, Tempos& t) {
 void contaPartidas(const std::vector<Vencedor>& maos, bool aEhJog, ResultadoArena& r) {
     int a = 0, b = 0;
     for (const Vencedor v : maos) {
-        if (v == Vencedor::Ninguem) continue;
+        if (!decidida(v)) continue;
         ++((v == Vencedor::Jog) == aEhJog ? a : b);
         if (a == kPontosDaPartida || b == kPontosDaPartida) {
             ++(a == kPontosDaPartida ? r.partidasA : r.partidasB);
@@ -139,8 +143,7 @@ Vencedor jogaUmaMao(Nivel& jog, Nivel& mac, std::uint64_t semente,
     novojogo(jogo);
     if (aoDar) aoDar(jogo);
     for (long turnos = 0; !fim; ++turnos) {
-        if (turnos > kTurnosPorMaoNoMaximo)
-            throw std::logic_error("a hand of the arena never ended");
+        if (turnos > kTurnosPorMaoNoMaximo) return Vencedor::SemFim;
         jogaPeloJogador(jogo, jog);
     }
     return *fim;
@@ -192,8 +195,10 @@ ResultadoArena arena(const PedidoArena& p, const std::atomic<bool>* parar,
         ++r.pares;
         comAFrente.push_back(par.aNaFrente);
         comBFrente.push_back(par.bNaFrente);
-        for (const Vencedor v : {par.aNaFrente, par.bNaFrente})
-            if (v == Vencedor::Ninguem) ++r.semVencedor;
+        for (const Vencedor v : {par.aNaFrente, par.bNaFrente}) {
+            r.semVencedor += !decidida(v);
+            r.semFim += v == Vencedor::SemFim;
+        }
         r.maosA += (par.aNaFrente == Vencedor::Jog) + (par.bNaFrente == Vencedor::Mac);
         r.maosB += (par.aNaFrente == Vencedor::Mac) + (par.bNaFrente == Vencedor::Jog);
     }
@@ -208,8 +213,7 @@ ResultadoArena arena(const PedidoArena& p, const std::atomic<bool>* parar,
         for (const Par& par : pares) {
             if (!par.feito) continue;
             const int ganhas = (par.aNaFrente == Vencedor::Jog) + (par.bNaFrente == Vencedor::Mac);
-            const int decididas =
-                (par.aNaFrente != Vencedor::Ninguem) + (par.bNaFrente != Vencedor::Ninguem);
+            const int decididas = decidida(par.aNaFrente) + decidida(par.bNaFrente);
             const double d = ganhas - q * decididas;
             desvios += d * d;
         }

@@ -14,7 +14,9 @@
 
 namespace corvina {
 
-enum class Vencedor { Jog, Mac, Ninguem };
+// Ninguem: the stock ran out. SemFim: the hand went past any length a hand can have when cards
+// come from the stock (two seats that only ever take each other's throws), and was stopped.
+enum class Vencedor { Jog, Mac, Ninguem, SemFim };
 
 // One hand from the shuffle of `semente`, no exchange: `jog` in the player's seat (who moves
 // first), `mac` in the machine's. `aoDar` is told of the table once it is dealt.
@@ -44,6 +46,7 @@ struct PedidoArena {
 struct ResultadoArena {
     long pares = 0; // played to the end; fewer than asked when interrupted
     long maosA = 0, maosB = 0, semVencedor = 0;
+    long semFim = 0; // of the hands without winner, those stopped for their length
     long partidasA = 0, partidasB = 0;        // first to 4, in each seat's run of hands
     double shareA = 0, ciLow = 0, ciHigh = 0; // of decided hands; 95%, over pairs
     double msMeanA = 0, msP99A = 0, msMeanB = 0, msP99B = 0;

@@ -239,5 +239,17 @@ TEST(Arena, AnInterruptAnswersForThePairsPlayed) {
     EXPECT_EQ(r.maosA + r.maosB + r.semVencedor, 6);
 }
 
+// Two seats that only take each other's throws never reach the end of the stock: the hand is
+// stopped and counted apart, and the run goes on.
+TEST(Arena, AHandOfTakesAloneIsStoppedWithoutWinner) {
+    struct SoPilha : Nivel {
+        bool pegaDescarte(const VisaoDoNivel& v) override { return v.topo.has_value(); }
+        int16 descarte(const VisaoDoNivel& v, bool) override {
+            return static_cast<int16>(v.mao.size()); // the card just taken goes back
+        }
+    } a, b;
+    EXPECT_EQ(jogaUmaMao(a, b, 5), Vencedor::SemFim);
+}
+
 } // namespace
 } // namespace corvina
