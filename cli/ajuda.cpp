@@ -57,7 +57,7 @@ Requests and answers:
          the card just drawn ("drew" says from where). One decision of a level from what its
          seat may know; the last two keys are optional: which discards were the opponent's,
          and what this seat took from the pile
-  {"op":"arena","a":L,"b":L,"pairs":N,"seed":S,"threads":T,"from":F}
+  {"op":"arena","a":L,"b":L,"pairs":N,"seed":S,"threads":T,"from":F,"ms":M}
       -> {"handsA":..,"handsB":..,"noWinner":..,"matchesA":..,"matchesB":..,"shareA":..,
           "ciLow":..,"ciHigh":..,"msMeanA":..,"msP99A":..,"msMeanB":..,"msP99B":..,
           "pairs":..,"from":..}
@@ -67,9 +67,10 @@ Requests and answers:
          interval taken over pairs (the two hands of a pair share their deal); progress
          on standard error, and an interrupt answers for the pairs played. L may also be
          "vidente", the seer: it plays by the hint's search on the real hidden cards, to
-         measure how far the levels stand from a player who sees everything. A hand past
-         1,000 turns (seats that only take each other's throws) is stopped and counted
-         among noWinner, and as "endless":N
+         measure how far the levels stand from a player who sees everything; or "busca",
+         every move by the hint's search on sampled worlds, "ms":M a decision (50 unless
+         given). A hand past 1,000 turns (seats that only take each other's throws) is
+         stopped and counted among noWinner, and as "endless":N
 
 A request that is not valid JSON, names an unknown op, misses a field, or holds a bad card
 or a hand of the wrong size is answered {"error":"..."}, and the next line is read.

@@ -31,6 +31,8 @@ using json = nlohmann::ordered_json;
 
 namespace {
 
+inline constexpr double kMsDaBusca = 50; // the search's time a decision in the arena
+
 void poeMao(Mesa& mesa, Lado lado, const std::vector<Carta>& cartas) {
     Mao mao = maoDe(mesa, lado);
     mao.qtd = static_cast<int16>(cartas.size());
@@ -245,9 +247,14 @@ json autojogo(const Pedido& p) {
     return resposta;
 }
 
-// A level, or "vidente": the seer that sees every card, for the arena alone.
+// A level, or an analysis player of the arena alone: "vidente", the seer that sees every card;
+// "busca", the hint's search, thinking "ms" a decision (50 unless given).
 Assento assentoDaArena(const Pedido& p, const char* nome) {
-    if (texto(p, nome) == "vidente") return Assento::vidente();
+    const std::string quem = texto(p, nome);
+    if (quem == "vidente") return Assento::vidente();
+    if (quem == "busca")
+        return Assento::busca(p.contains("ms") ? static_cast<double>(inteiro(p, "ms", 1, 60000))
+                                               : kMsDaBusca);
     return tipoDoNivel(p, nome);
 }
 

@@ -13,6 +13,7 @@
 #include "core/textos.h"
 #include "core/vista_nula.h"
 #include "machine/autojogador.h"
+#include "machine/nivel_de_busca.h"
 #include "machine/vidente.h"
 
 namespace corvina {
@@ -65,7 +66,14 @@ struct Tempos {
 };
 
 std::unique_ptr<Nivel> criaAssento(const Assento& a) {
-    if (a.seVidente) return std::make_unique<Vidente>();
+    switch (a.analise) {
+    case Assento::Analise::Vidente:
+        return std::make_unique<Vidente>();
+    case Assento::Analise::Busca:
+        return std::make_unique<NivelDeBusca>(Orcamento{.ms = a.ms});
+    case Assento::Analise::Nenhuma:
+        break;
+    }
     return criaNivel(a.nivel);
 }
 

@@ -23,16 +23,20 @@ enum class Vencedor { Jog, Mac, Ninguem, SemFim };
 Vencedor jogaUmaMao(Nivel& jog, Nivel& mac, std::uint64_t semente,
                     const std::function<void(const Jogo&)>& aoDar = {});
 
-// Who sits in a seat of the arena: a level, or the seer (Vidente), who sees every card.
+// Who sits in a seat of the arena: a level, or one of the analysis players no level window
+// offers: the seer (Vidente), who sees every card, and the search (`Busca`), who plays every
+// move by the hint's search on worlds sampled from its view, `ms` a decision.
 struct Assento {
+    enum class Analise { Nenhuma, Vidente, Busca };
     Assento(TipoNivel n = TipoNivel::Classico) : nivel(n) {} // implicit: a level is a seat
-    static Assento vidente() {
-        Assento a;
-        a.seVidente = true;
-        return a;
-    }
+    static Assento vidente() { return Assento(Analise::Vidente, 0); }
+    static Assento busca(double ms) { return Assento(Analise::Busca, ms); }
     TipoNivel nivel;
-    bool seVidente = false;
+    Analise analise = Analise::Nenhuma;
+    double ms = 0;
+
+  private:
+    Assento(Analise a, double m) : nivel(TipoNivel::Classico), analise(a), ms(m) {}
 };
 
 struct PedidoArena {
