@@ -255,7 +255,10 @@ Assento assentoDaArena(const Pedido& p, const char* nome) {
     if (quem == "busca")
         return Assento::busca(p.contains("ms") ? static_cast<double>(inteiro(p, "ms", 1, 60000))
                                                : kMsDaBusca);
-    return tipoDoNivel(p, nome);
+    if (const auto n = nivelDaChave(quem)) return *n;
+    throw PedidoInvalido(
+        std::string("\"") + nome +
+        "\" must be \"classico\", \"esperto\", \"forte\", \"vidente\" or \"busca\"");
 }
 
 json arena(const Pedido& p) {

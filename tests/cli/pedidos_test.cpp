@@ -99,6 +99,11 @@ INSTANTIATE_TEST_SUITE_P(
         Caso{R"({"op":"arena","a":"esperto","b":"classico","pairs":3,"seed":7,"threads":0})",
              R"({"error":"\"threads\" must lie in 1..256"})"},
         Caso{
+            R"({"op":"arena","a":"mestre","b":"classico","pairs":3,"seed":7})",
+            R"({"error":"\"a\" must be \"classico\", \"esperto\", \"forte\", \"vidente\" or \"busca\""})"},
+        Caso{R"({"op":"arena","a":"busca","ms":0,"b":"classico","pairs":3,"seed":7})",
+             R"({"error":"\"ms\" must lie in 1..60000"})"},
+        Caso{
             R"({"op":"decide","level":"classico","hand":["1/1","1/1","1/1","2/2","3/3","4/4","5/1","6/2","7/3"],"pile":null,"discards":[],"opponentTook":[],"stock":5})",
             R"({"error":"\"1/1\" stands more than twice"})"},
         Caso{R"([1,2])", R"({"error":"a request is a JSON object"})"},
