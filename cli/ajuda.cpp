@@ -56,7 +56,9 @@ Requests and answers:
       -> {"draw":"pile"|"stock"} with 9 cards; {"discard":"v/n"} with 10, the last of them
          the card just drawn ("drew" says from where). One decision of a level from what its
          seat may know; the last two keys are optional: which discards were the opponent's,
-         and what this seat took from the pile
+         and what this seat took from the pile. "level":"vidente" is the arena's seer, given
+         the hidden cards: "opponentHand":[9] and "stockOrder":[..] ("stock" cards,
+         position 1 first, the last drawn first)
   {"op":"arena","a":L,"b":L,"pairs":N,"seed":S,"threads":T,"from":F,"ms":M}
       -> {"handsA":..,"handsB":..,"noWinner":..,"matchesA":..,"matchesB":..,"shareA":..,
           "ciLow":..,"ciHigh":..,"msMeanA":..,"msP99A":..,"msMeanB":..,"msP99B":..,

@@ -19,6 +19,7 @@
 #include "machine/autojogador.h"
 #include "machine/classico.h"
 #include "machine/niveis.h"
+#include "machine/vidente.h"
 #include "players/hall_da_fama.h"
 #include "players/lista_de_jogadores.h"
 #include "table/ordenar.h"
@@ -161,11 +162,25 @@ TipoNivel tipoDoNivel(const Pedido& p, const char* nome) {
                          "\" must be \"classico\", \"esperto\" or \"forte\"");
 }
 
+// The seer, told the hidden cards: the other hand and the stock, position 1 first.
+std::unique_ptr<Nivel> videnteDoPedido(const Pedido& p) {
+    Mundo real;
+    for (const Carta c : cartas(p, "opponentHand", {kCartasNaMao})) ++real.doOutro[tipoDaCarta(c)];
+    for (const Carta c : listaDeCartas(p, "stockOrder", kCartasNoMonte))
+        real.monte.push_back(static_cast<std::uint8_t>(tipoDaCarta(c)));
+    if (static_cast<long>(real.monte.size()) != inteiro(p, "stock", 0, kCartasNoMonte))
+        throw PedidoInvalido("\"stockOrder\" must hold \"stock\" cards");
+    auto vidente = std::make_unique<Vidente>();
+    vidente->ve(std::move(real));
+    return vidente;
+}
+
 json decide(const Pedido& p) {
-    const TipoNivel tipo = tipoDoNivel(p, "level");
+    const bool vidente = texto(p, "level") == "vidente";
     // A seed is taken and checked for the requests that carry one; no level draws on chance.
     if (p.contains("seed")) inteiro(p, "seed", 0, INT64_MAX);
-    const std::unique_ptr<Nivel> nivel = criaNivel(tipo);
+    const std::unique_ptr<Nivel> nivel =
+        vidente ? videnteDoPedido(p) : criaNivel(tipoDoNivel(p, "level"));
     VisaoDoNivel v;
     v.mao = cartas(p, "hand", {kCartasNaMao, kCasaCompra});
     const Pedido& pilha = campo(p, "pile");
@@ -179,6 +194,9 @@ json decide(const Pedido& p) {
     std::map<Carta, int> vistas; // two packs: no card stands three times in one's own sight
     for (const Carta c : v.mao) ++vistas[c];
     if (v.topo) ++vistas[*v.topo];
+    if (vidente) // and the seer's sight is the whole table
+        for (const char* chave : {"opponentHand", "stockOrder"})
+            for (const Carta c : listaDeCartas(p, chave, kCartasNoMonte)) ++vistas[c];
     for (const auto& [c, n] : vistas)
         if (n > 2) throw PedidoInvalido("\"" + escreveCarta(c) + "\" stands more than twice");
     if (v.mao.size() == kCartasNaMao) return {{"draw", nivel->pegaDescarte(v) ? "pile" : "stock"}};

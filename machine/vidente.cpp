@@ -7,6 +7,7 @@
 namespace corvina {
 
 FonteDeMundos Vidente::mundoReal() const {
+    if (real_) return [real = *real_](std::mt19937_64&) { return real; };
     Mundo real;
     const Mesa& m = jogo_->mesa;
     const bool souJog = lado_ == Lado::Jog;
@@ -22,13 +23,13 @@ FonteDeMundos Vidente::mundoReal() const {
 }
 
 bool Vidente::pegaDescarte(const VisaoDoNivel& visao) {
-    if (!jogo_) return Esperto().pegaDescarte(visao);
+    if (!jogo_ && !real_) return Esperto().pegaDescarte(visao);
     const Pesagem p = pesaCompra(visao, orcamento_, mundoReal());
     return !p.chances.empty() && p.chances.front().casa == 0;
 }
 
 int16 Vidente::descarte(const VisaoDoNivel& visao, bool doDescarte) {
-    if (!jogo_) return Esperto().descarte(visao, doDescarte);
+    if (!jogo_ && !real_) return Esperto().descarte(visao, doDescarte);
     const Pesagem p = pesaDescartes(visao, orcamento_, mundoReal());
     return p.chances.empty() ? kCasaCompra : p.chances.front().casa;
 }
