@@ -77,4 +77,14 @@ json paraJson(const std::vector<Carta>& cartas) {
     return lista;
 }
 
+std::vector<Carta> listaDeCartas(const Pedido& p, const char* nome, std::size_t maximo) {
+    const Pedido& v = campo(p, nome);
+    if (!v.is_array() || v.size() > maximo)
+        throw PedidoInvalido(std::string("\"") + nome + "\" must be an array of at most " +
+                             std::to_string(maximo) + " cards");
+    std::vector<Carta> lista;
+    for (const Pedido& c : v) lista.push_back(carta(c, nome));
+    return lista;
+}
+
 } // namespace corvina::cli

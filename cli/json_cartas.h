@@ -30,6 +30,9 @@ Carta carta(const Pedido& valor, const char* nome);
 std::vector<Carta> cartas(const Pedido& pedido, const char* nome,
                           std::initializer_list<std::size_t> tamanhos);
 
+// The cards of a list field of any length up to `maximo`.
+std::vector<Carta> listaDeCartas(const Pedido& pedido, const char* nome, std::size_t maximo);
+
 nlohmann::ordered_json paraJson(const std::vector<Carta>& cartas);
 
 } // namespace corvina::cli
