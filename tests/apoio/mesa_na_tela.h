@@ -62,12 +62,6 @@ struct MesaNaTela {
         QKeyEvent e(QEvent::KeyPress, k, m);
         QApplication::sendEvent(&janela, &e);
     }
-    // Whether the machine's row shows its faces.
-    bool macAberta() const {
-        for (int i = 1; i <= 9; ++i)
-            if (vista.cena()[peca::cm(i)].Picture >= kPrimeiroVerso) return false;
-        return true;
-    }
     // Over the card, press, up above the row in steps, let go: the discard.
     void descarta(int casa) {
         const QPoint sobre = janela.retanguloDa(peca::cj(casa)).center();

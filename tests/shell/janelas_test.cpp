@@ -74,33 +74,6 @@ TEST_F(Mesa, AFirstPlayerIsRegisteredAndPlaysInAssistedMode) {
     EXPECT_EQ(settings.le(chaveJogador("ZÉ D'ÁGUA"), "Assistido", ""), "1");
 }
 
-TEST_F(Mesa, AnEmptiedNameBoxPlaysAsTheProposedName) {
-    // Once as a new name, once as one already registered, answered Sim.
-    for (const bool jaCadastrado : {false, true}) {
-        settings.grava(chaveBase(), ajuste::jogador(1), "Ze");
-        settings.grava(chaveBase(), ajuste::jogador(2), jaCadastrado ? "Jogador" : "");
-        if (jaCadastrado)
-            quandoAbrir("FrmSimNao", [](QWidget* w) {
-                EXPECT_TRUE(parte<QLabel>(w, "Label1")->text().contains("cadastrado\nDeseja"))
-                    << "the question's break shows as a break";
-                QTest::keyClick(w, Qt::Key_Return);
-            });
-        quandoAbrir("FrmNovoJogador", [](QWidget* w) {
-            parte<QLineEdit>(w, "Text1")->clear();
-            QTest::keyClick(parte(w, "Text1"), Qt::Key_Return);
-        });
-        quandoAbrir("FrmNome", [](QWidget* w) {
-            clica(w, "Label8");
-            EXPECT_EQ(parte<QComboBox>(w, "Combo1")->currentText(), "Jogador");
-            clica(w, "Label9");
-        });
-        janelas.abre(Janela::FrmNome, {});
-        EXPECT_EQ(jogo.modulo.nomeJogador, "Jogador");
-        EXPECT_EQ(ajuste("Jogador2"), "Jogador");
-        EXPECT_EQ(ajuste("Jogador3"), "") << "registered once";
-    }
-}
-
 TEST_F(Mesa, NewMatchFromTheToolbarCanBeCancelledOrPlayed) {
     lista({"Ana", "Bia"});
     abre([](QWidget* w) { clica(w, "Label9"); });
@@ -300,8 +273,12 @@ TEST(FrmSimNao, EachWayToAnswer) {
          false},
     };
     for (const auto& c : casos) {
-        quandoAbrir("FrmSimNao", c.responde);
-        EXPECT_EQ(SimNao(nullptr, "Pergunta?", "Título"), c.sim) << c.como;
+        quandoAbrir("FrmSimNao", [&](QWidget* w) {
+            EXPECT_EQ(parte<QLabel>(w, "Label1")->text(), "Pergunta\nDeseja?")
+                << "the question's break shows as a break";
+            c.responde(w);
+        });
+        EXPECT_EQ(SimNao(nullptr, "Pergunta\rDeseja?", "Título"), c.sim) << c.como;
     }
 }
 

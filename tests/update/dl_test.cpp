@@ -10,11 +10,11 @@
 #include <QTemporaryDir>
 #include <QTimer>
 #include <chrono>
+#include <functional>
 #include <thread>
 
 #include "servidor_https.h"
 #include "update/qt/dl.h"
-#include "update/qt/progress_bar_xp.h"
 
 namespace corvina {
 namespace {
@@ -105,106 +105,85 @@ TEST_F(Download, AFileArrivesWithItsProgressAndASlowOneIsNotGivenUp) {
     EXPECT_EQ(conteudo(destino("lento.deb")).size(), 8 * 1024);
 }
 
-TEST_F(Download, FailuresLeaveNoFileAndAnExistingOneAlone) {
-    servidor.caminhos["/sem-tamanho.deb"] = Resposta::texto("abc", 200, false);
+// Every way a file can fail to come ends failed (or cancelled) with nothing of it on the disk,
+// each by its own cause before the watchdog's two seconds (limits set low where said).
+TEST_F(Download, EveryFailureEndsSoonAndLeavesNoFile) {
+    Resposta mentirosa = Resposta::texto(QByteArray(100, 'm'));
+    mentirosa.tamanhoDito = 5000; // the connection closes long before
+    servidor.caminhos["/curto.deb"] = mentirosa;
     servidor.caminhos["/lixo"] = Resposta::so(Resposta::Tipo::Lixo);
-    servidor.caminhos["/ok.deb"] = Resposta::texto("novo");
-    {
-        DL dl;
-        EXPECT_EQ(dl.Download(servidor.url("/sem-tamanho.deb"), destino("s.deb"), {}),
-                  Situacao::Falhou)
-            << "no total told: the percentage never passes 99";
-    }
-    {
-        DL dl;
-        EXPECT_EQ(dl.Download(servidor.url("/lixo"), destino("l.deb"), {}), Situacao::Falhou);
-        EXPECT_FALSE(QFile::exists(destino("l.deb")));
-    }
-    {
-        DL dl;
-        EXPECT_EQ(dl.Download(servidor.url("/nada.deb"), destino("n.deb"), {}), Situacao::Falhou);
-        EXPECT_FALSE(QFile::exists(destino("n.deb")));
-    }
-    {
-        QFile velho(destino("ok.deb"));
-        ASSERT_TRUE(velho.open(QIODevice::WriteOnly));
-        velho.write("velho");
-        velho.close();
-        DL dl;
-        EXPECT_EQ(dl.Download(servidor.url("/ok.deb"), destino("ok.deb"), {}), Situacao::Completo);
-        EXPECT_EQ(conteudo(destino("ok.deb")), "velho") << "an existing file is not replaced";
-    }
-    {
-        DL dl;
-        EXPECT_EQ(dl.Download(servidor.url("/ok.deb"), "/proc/corvina/ok.deb", {}),
-                  Situacao::Falhou)
-            << "a folder that can't be written";
-    }
-    const QStringList sobras = QDir(pasta.path()).entryList(QDir::Hidden | QDir::Files);
-    EXPECT_EQ(sobras, QStringList({"ok.deb", "s.deb"})) << "no temporary file is left behind";
-}
-
-TEST_F(Download, ADeadServerOrARedirectLoopFailsAndTheGameGoesOn) {
     servidor.caminhos["/a"] = Resposta::so(Resposta::Tipo::Redireciona, servidor.url("/b"));
     servidor.caminhos["/b"] = Resposta::so(Resposta::Tipo::Redireciona, servidor.url("/a"));
-    DL dl;
-    EXPECT_EQ(dl.Download(servidor.url("/a"), destino("a.deb"), {}, "Id", 2), Situacao::Falhou);
-    EXPECT_FALSE(QFile::exists(destino("a.deb")));
+    servidor.caminhos["/sem-fim"] = Resposta::semFimDe(64 * 1024 * 1024);
+    servidor.caminhos["/lento.deb"] = Resposta::gotejando(QByteArray(64 * 1024, 'l'), 512, 50);
+    servidor.caminhos["/gota.deb"] = Resposta::gotejando(QByteArray(64 * 1024, 'g'), 64, 50);
+    const struct {
+        const char* caso;
+        const char* caminho;
+        std::function<void(DL&)> ajusta;
+        Situacao esperada;
+    } casos[] = {
+        {"garbage", "/lixo", {}, Situacao::Falhou},
+        {"not found", "/nada.deb", {}, Situacao::Falhou},
+        {"a redirect loop", "/a", {}, Situacao::Falhou},
+        {"a length that lies", "/curto.deb", {}, Situacao::Falhou},
+        {"an endless answer", "/sem-fim",
+         [](DL& dl) { dl.maiorArquivo = 256 * 1024; }, // as large as a signed package may be
+         Situacao::Falhou},
+        {"a byte now and then, never silent: by its rate", "/gota.deb",
+         [](DL& dl) {
+             dl.limitesDoArquivo = {0, 0.5, 4 * 1024};
+         }, // 1.3 KB/s against 4
+         Situacao::Falhou},
+        {"cancelled", "/lento.deb",
+         [](DL& dl) { QTimer::singleShot(200, &dl, [&dl] { dl.CancelDownload(); }); },
+         Situacao::Cancelado},
+    };
+    for (const auto& c : casos) {
+        DL dl;
+        if (c.ajusta) c.ajusta(dl);
+        EXPECT_EQ(dl.Download(servidor.url(c.caminho), destino("x.deb"), {}, "Id", 2), c.esperada)
+            << c.caso;
+        EXPECT_FALSE(dl.abortado()) << c.caso << ": ended by the watchdog, not by its cause";
+        EXPECT_EQ(QDir(pasta.path()).entryList(QDir::Files | QDir::Hidden), QStringList())
+            << c.caso << ": something of it stays on the disk";
+    }
+}
+
+// Two failures that leave a file: one that came without its length (the percentage never
+// passes 99), and one already there, never replaced. And a folder that can't be written.
+TEST_F(Download, AFileWithoutItsLengthStaysAndAnExistingOneIsNotReplaced) {
+    servidor.caminhos["/sem-tamanho.deb"] = Resposta::texto("abc", 200, false);
+    servidor.caminhos["/ok.deb"] = Resposta::texto("novo");
+    EXPECT_EQ(DL().Download(servidor.url("/sem-tamanho.deb"), destino("s.deb"), {}),
+              Situacao::Falhou);
+    QFile velho(destino("ok.deb"));
+    ASSERT_TRUE(velho.open(QIODevice::WriteOnly));
+    velho.write("velho");
+    velho.close();
+    EXPECT_EQ(DL().Download(servidor.url("/ok.deb"), destino("ok.deb"), {}), Situacao::Completo);
+    EXPECT_EQ(conteudo(destino("ok.deb")), "velho");
+    EXPECT_EQ(DL().Download(servidor.url("/ok.deb"), "/proc/corvina/ok.deb", {}), Situacao::Falhou);
+    EXPECT_EQ(QDir(pasta.path()).entryList(QDir::Hidden | QDir::Files),
+              QStringList({"ok.deb", "s.deb"}))
+        << "no temporary file is left behind";
+}
+
+// A text answer that never ends, or comes a byte at a time, or from nobody, is no answer.
+TEST_F(Download, ATextThatIsEndlessSlowOrFromNobodyIsNoAnswer) {
+    servidor.caminhos["/sem-fim"] = Resposta::semFimDe(64 * 1024 * 1024);
+    servidor.caminhos["/gota.txt"] = Resposta::gotejando("!*!a!*!1.0.0!*!u!*!", 1, 100);
+    EXPECT_EQ(DL().GetConteudo(servidor.url("/sem-fim"), "Id", 5), "");
+    DL texto;
+    texto.limitesDoTexto = {0.6, 0, 0}; // two seconds of answer against 0.6 allowed
+    QElapsedTimer relogio;
+    relogio.start();
+    EXPECT_EQ(texto.GetConteudo(servidor.url("/gota.txt"), "Id", 2), "");
+    EXPECT_LT(relogio.elapsed(), 1500);
     DL morto;
     EXPECT_EQ(morto.GetConteudo("https://127.0.0.1:1/update.php", "Id", 2), "")
         << "nobody listens on port 1";
     EXPECT_FALSE(morto.abortado()) << "refused at once, not given up";
-}
-
-TEST_F(Download, AWrongLengthFailsAndACancelStopsTheRead) {
-    Resposta mentirosa = Resposta::texto(QByteArray(100, 'm'));
-    mentirosa.tamanhoDito = 5000; // the connection closes long before
-    servidor.caminhos["/curto.deb"] = mentirosa;
-    servidor.caminhos["/lento.deb"] = Resposta::gotejando(QByteArray(64 * 1024, 'l'), 512, 50);
-    DL dl;
-    EXPECT_EQ(dl.Download(servidor.url("/curto.deb"), destino("curto.deb"), {}, "Id", 2),
-              Situacao::Falhou);
-    EXPECT_FALSE(QFile::exists(destino("curto.deb")));
-
-    DL cancelado;
-    QTimer::singleShot(200, &cancelado, [&] { cancelado.CancelDownload(); });
-    EXPECT_EQ(cancelado.Download(servidor.url("/lento.deb"), destino("lento.deb"), {}, "Id", 2),
-              Situacao::Cancelado);
-    EXPECT_FALSE(QFile::exists(destino("lento.deb")));
-}
-
-TEST_F(Download, AnEndlessAnswerIsCutShort) {
-    servidor.caminhos["/sem-fim"] = Resposta::semFimDe(64 * 1024 * 1024);
-    DL dl;
-    EXPECT_EQ(dl.GetConteudo(servidor.url("/sem-fim"), "Id", 5), "");
-    DL arquivo;
-    arquivo.maiorArquivo = 256 * 1024; // the game's limit is that of a signed package
-    EXPECT_EQ(arquivo.Download(servidor.url("/sem-fim"), destino("x.deb"), {}, "Id", 5),
-              Situacao::Falhou);
-    EXPECT_FALSE(QFile::exists(destino("x.deb")));
-    EXPECT_EQ(QDir(pasta.path()).entryList(QDir::Files | QDir::Hidden), QStringList())
-        << "nothing of it stays on the disk";
-}
-
-// A server that sends a byte now and then is never silent long enough for the watchdog; the
-// network layer gives it up by its rate, or by the time of the whole read, and the read ends
-// failed with nothing left on the disk.
-TEST_F(Download, ACrawlingServerIsBrokenOffByItsRateOrItsTime) {
-    servidor.caminhos["/gota.deb"] = Resposta::gotejando(QByteArray(64 * 1024, 'g'), 64, 50);
-    servidor.caminhos["/gota.txt"] = Resposta::gotejando("!*!a!*!1.0.0!*!u!*!", 1, 100);
-    QElapsedTimer relogio;
-    relogio.start();
-    DL arquivo;
-    arquivo.limitesDoArquivo = {0, 0.5, 4 * 1024}; // 1.3 KB/s against 8 KB/s asked
-    EXPECT_EQ(arquivo.Download(servidor.url("/gota.deb"), destino("g.deb"), {}, "Id", 2),
-              Situacao::Falhou);
-    EXPECT_LT(relogio.elapsed(), 1500);
-    EXPECT_FALSE(arquivo.abortado()) << "not the watchdog: the server was never silent";
-    DL texto;
-    texto.limitesDoTexto = {0.6, 0, 0}; // two seconds of answer against 0.6 allowed
-    relogio.restart();
-    EXPECT_EQ(texto.GetConteudo(servidor.url("/gota.txt"), "Id", 2), "");
-    EXPECT_LT(relogio.elapsed(), 1500);
     EXPECT_EQ(QDir(pasta.path()).entryList(QDir::Files | QDir::Hidden), QStringList());
 }
 
@@ -239,32 +218,6 @@ TEST(DownloadRapido, WhatIsInFlightStaysSmallWhileTheWindowIsBusy) {
               Situacao::Completo);
     EXPECT_EQ(QFileInfo(pasta.filePath("g.deb")).size(), kTamanho);
     EXPECT_LT(picoDeMemoria() - antes, 24 * 1024) << "KiB more at the peak";
-}
-
-// The bar's blocks, read off a rendered picture: the first block from the start, the last
-// whole block at 100, and a value above the maximum drawn full.
-TEST(ProgressBarXP, TheBlocksOnThePictureFollowTheValue) {
-    ProgressBarXP barra;
-    barra.setColor(QColor(49, 106, 197));
-    barra.resize(289, 14);
-    const auto azulAte = [&](long valor) {
-        barra.setValue(valor);
-        const QImage img = barra.grab().toImage();
-        int ultimo = -1;
-        for (int x = 0; x < img.width(); ++x)
-            // Row 4: on a bar this low the three bands overlap, and the lower gradient, drawn
-            // last, begins there in full colour.
-            if (img.pixelColor(x, 4) == QColor(49, 106, 197)) ultimo = x;
-        return ultimo;
-    };
-    EXPECT_EQ(azulAte(0), 9) << "one block of six from column 4";
-    EXPECT_EQ(azulAte(50), 145);
-    EXPECT_EQ(azulAte(100), 281) << "the last whole block";
-    EXPECT_EQ(azulAte(250), 281);
-    const QImage img = barra.grab().toImage();
-    EXPECT_EQ(img.pixelColor(10, 10), QColor(Qt::white)) << "the gap after the first block";
-    EXPECT_EQ(img.pixelColor(0, 7), QColor(104, 104, 104)) << "the frame";
-    EXPECT_EQ(img.pixelColor(0, 0), QColor(Qt::white)) << "a rounded corner";
 }
 
 } // namespace
