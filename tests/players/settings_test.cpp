@@ -3,7 +3,9 @@
 #include <QFileInfo>
 #include <QSettings>
 #include <QTemporaryDir>
+#include <algorithm>
 #include <fstream>
+#include <functional>
 #include <iterator>
 #include <sys/stat.h>
 #include <thread>
@@ -79,52 +81,49 @@ TEST_F(SettingsTest, OddNamesAreStoredAndReadBackAsThemselves) {
     EXPECT_EQ(s.le(chaveBase(), "Vitorias", "0"), "0");
 }
 
-TEST(Highcor, MadeOnceThenReadAndLeftAlone) {
+// The old high-score file: made when missing, read when it is a plain file of sane size, and
+// otherwise (a pipe, a device, a huge file, a folder that can't be written) read as an empty
+// table without holding up the start; never rewritten.
+TEST(Highcor, MadeOnceThenReadAndOtherwiseLeftAlone) {
     QTemporaryDir pasta;
-    preparaHighcor(pasta.path().toStdString());
-    QFile arquivo(pasta.filePath("highcor.dat"));
-    ASSERT_TRUE(arquivo.open(QIODevice::ReadOnly));
-    const QByteArray feito = arquivo.readAll();
-    arquivo.close();
-    EXPECT_EQ(feito.count("\r\n"), 21);
-    EXPECT_TRUE(feito.startsWith("\".\"\r\n0\r\n"));
-
-    ASSERT_TRUE(arquivo.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    arquivo.write("\"Ana\"\r\n12\r\n\"Bia\",7\r\n");
-    arquivo.close();
-    const Highcor h = preparaHighcor(pasta.path().toStdString());
-    EXPECT_EQ(h.nomesArquivo[0], "Ana");
-    EXPECT_EQ(h.pontosArquivo[0], 12);
-    EXPECT_EQ(h.nomesArquivo[1], "Bia");
-    EXPECT_EQ(h.pontosArquivo[1], 7);
-    ASSERT_TRUE(arquivo.open(QIODevice::ReadOnly));
-    EXPECT_EQ(arquivo.readAll(), QByteArray("\"Ana\"\r\n12\r\n\"Bia\",7\r\n"));
-}
-
-TEST(Highcor, AFolderThatCantBeWrittenLeavesAnEmptyTable) {
-    const Highcor h = preparaHighcor("/proc/corvina-nao-pode");
-    EXPECT_EQ(h.nomesArquivo[0], "");
-}
-
-// What stands at the path is not to be trusted: none of these may hold up the start, grow
-// the memory, or be overwritten.
-TEST(Highcor, APipeADeviceOrAHugeFileIsLeftAloneAndReadAsEmpty) {
-    QTemporaryDir pasta;
-    const std::string dat = pasta.filePath("highcor.dat").toStdString();
-    ASSERT_EQ(::mkfifo(dat.c_str(), 0600), 0);
-    EXPECT_EQ(preparaHighcor(pasta.path().toStdString()).nomesArquivo[0], "");
-    EXPECT_TRUE(QFileInfo(pasta.filePath("highcor.dat")).isFile() == false);
-    ::unlink(dat.c_str());
-
-    ASSERT_EQ(::symlink("/dev/zero", dat.c_str()), 0);
-    EXPECT_EQ(preparaHighcor(pasta.path().toStdString()).nomesArquivo[0], "");
-    ::unlink(dat.c_str());
-
+    const std::string raiz = pasta.path().toStdString(), dat = raiz + "/highcor.dat";
+    const auto conteudo = [&] {
+        std::ifstream f(dat, std::ios::binary);
+        return std::string(std::istreambuf_iterator<char>(f), {});
+    };
+    EXPECT_EQ(preparaHighcor(raiz).nomesArquivo[0], "");
+    const std::string feito = conteudo();
+    EXPECT_EQ(feito.rfind("\".\"\r\n0\r\n", 0), 0u) << "made when missing";
+    EXPECT_EQ(std::count(feito.begin(), feito.end(), '\n'), 21);
+    const std::string lido = "\"Ana\"\r\n12\r\n\"Bia\",7\r\n";
     const std::string grande = "\"Ana\"\r\n12\r\n" + std::string(1 << 20, 'x');
-    { std::ofstream(dat, std::ios::binary) << grande; }
-    EXPECT_EQ(preparaHighcor(pasta.path().toStdString()).nomesArquivo[0], "");
-    std::ifstream f(dat, std::ios::binary);
-    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(f), {}), grande) << "kept as it was";
+    const struct {
+        const char* caso;
+        std::function<void()> prepara;
+        const char* primeiro;
+    } casos[] = {
+        {"a file", [&] { std::ofstream(dat, std::ios::binary) << lido; }, "Ana"},
+        {"a huge file", [&] { std::ofstream(dat, std::ios::binary) << grande; }, ""},
+        {"a pipe", [&] { ASSERT_EQ(::mkfifo(dat.c_str(), 0600), 0); }, ""},
+        {"a device", [&] { ASSERT_EQ(::symlink("/dev/zero", dat.c_str()), 0); }, ""},
+    };
+    for (const auto& c : casos) {
+        ::unlink(dat.c_str());
+        c.prepara();
+        const Highcor h = preparaHighcor(raiz);
+        EXPECT_EQ(h.nomesArquivo[0], c.primeiro) << c.caso;
+        if (*c.primeiro) {
+            EXPECT_EQ(h.pontosArquivo[0], 12);
+            EXPECT_EQ(h.nomesArquivo[1], "Bia");
+            EXPECT_EQ(h.pontosArquivo[1], 7);
+            EXPECT_EQ(conteudo(), lido) << "never rewritten";
+        }
+    }
+    ::unlink(dat.c_str());
+    std::ofstream(dat, std::ios::binary) << grande;
+    preparaHighcor(raiz);
+    EXPECT_EQ(conteudo(), grande) << "kept as it was";
+    EXPECT_EQ(preparaHighcor("/proc/corvina-nao-pode").nomesArquivo[0], "");
 }
 
 TEST_F(SettingsTest, APipeIsNeverOpenedAndAHugeFileIsMovedAside) {

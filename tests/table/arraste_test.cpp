@@ -1,3 +1,7 @@
+// The drag's rules: where a drop lands, the shift of the row, the panel's edges, the flight's
+// steps and the pile's fan. The mover over a card, a drop that discards and a move during a
+// flight are checked under mixed input on the real window (shell/mistura_test.cpp).
+
 #include <gtest/gtest.h>
 
 #include "apoio/mesa_de_cena.h"
@@ -10,7 +14,6 @@ using teste::MesaDeCena;
 using teste::textoDaMao;
 
 constexpr const char* kNove = "2/2 4/3 6/4 8/1 10/2 12/3 1/4 3/1 5/2";
-constexpr const char* kDez = "2/2 4/3 6/4 8/1 10/2 12/3 1/4 3/1 5/2 13/1";
 constexpr const char* kMac = "1/1 3/2 5/3 7/4 9/1 11/2 13/3 2/4 6/1";
 constexpr Peca kMover{Parte::Picmover};
 
@@ -42,22 +45,6 @@ void pega(MesaDeCena& t, int16 casa) {
 // Moves the mover by (dx, dy) twips from where it stands, as the mouse inside it would.
 void arrasta(MesaDeCena& t, float dx, float dy) {
     Picmover_MouseMove(t.jogo, t.vista, kBotaoEsquerdo, 10 + dx, 10 + dy);
-}
-
-TEST(Arraste, MouseOverLaysTheMoverOnTheCardAndRaisesItWithTen) {
-    MesaDeCena t;
-    t.arma(kDez, kMac);
-    t.jogo.mesa.qtdJog = 10;
-    cj_MouseMove(t.jogo, t.vista, 5);
-    EXPECT_TRUE(t.sprite(kMover).Visible);
-    EXPECT_EQ(t.sprite(kMover).Left, t.sprite({Parte::cj, 5}).Left);
-    EXPECT_EQ(t.sprite({Parte::cj, 5}).Top, 4890);
-    EXPECT_EQ(t.sprite({Parte::cj, 4}).Top, 4950);
-    EXPECT_EQ(t.sprite(kMover).Top, 4890);
-    EXPECT_EQ(t.jogo.mesa.cartaAtual, 5);
-    t.jogo.mesa.animando = true;
-    cj_MouseMove(t.jogo, t.vista, 6);
-    EXPECT_EQ(t.jogo.mesa.cartaAtual, 5) << "nothing moves during a flight";
 }
 
 TEST(Arraste, DraggingLeftShiftsTheCardsBetween) {
@@ -115,19 +102,6 @@ TEST(Arraste, WithNineCardsADropAboveIsRefusedWithTheWarning) {
     EXPECT_EQ(t.jogo.mesa.qtdJog, 9);
     pega(t, 3);
     EXPECT_FALSE(t.vista.cena().textos.avisoVisivel) << "the next press hides the warning";
-}
-
-TEST(Arraste, WithTenCardsADropAboveDiscards) {
-    MesaDeCena t;
-    t.arma(kDez, kMac);
-    t.jogo.mesa.qtdJog = 10;
-    pega(t, 10);
-    arrasta(t, -3000, -2500);
-    ateOFim(Picmover_MouseUp(t.jogo, t.vista, kBotaoEsquerdo));
-    EXPECT_EQ(t.jogo.mesa.qtdJog, 9);
-    EXPECT_EQ(textoDaMao(t.jogo.mesa, Lado::Jog), kNove) << "slot 10 went; the nine stay";
-    EXPECT_FALSE(t.sprite({Parte::cj, 10}).Visible);
-    EXPECT_EQ(t.vista.cena().textos.prompt, "Pegue uma carta no baralho ou no descarte");
 }
 
 TEST(Voo, StepsFollowTheSpeedAndRoundDown) {

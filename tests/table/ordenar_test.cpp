@@ -87,36 +87,21 @@ TEST(Ordenar, GivesUpWhenTwoOrdersHideATrinca) {
         << "a press that gives up shows no hint";
 }
 
-TEST(Ordenar, NineCardsOfThreeTrincasWinTheHand) {
-    JogoDeTeste t;
-    t.arma("13/4 1/4 7/3 6/2 12/4 5/2 7/2 4/2 7/1", kMac);
-    t.jogo.modulo.assistido = 1;
-    Label4_Click(t.jogo);
-    EXPECT_EQ(t.jogo.modulo.pontosJog, 1);
-    EXPECT_TRUE(t.chamou("abreJanela FrmPlacar"));
-}
-
-TEST(Ordenar, TenCardsOfThreeTrincasShowThemButWinNothing) {
-    // The player holds a drawn card: the hand is won only by a discard.
-    JogoDeTeste t;
-    t.arma("13/4 1/4 7/3 6/2 12/4 5/2 7/2 4/2 7/1 9/3", kMac);
-    ASSERT_EQ(t.jogo.mesa.qtdJog, 10);
-    t.jogo.modulo.assistido = 1;
-    t.jogo.modulo.avisoOrdenar = true;
-    Label4_Click(t.jogo);
-    EXPECT_TRUE(t.chamou("mostraTrincas 3 trincas"));
-    EXPECT_EQ(t.jogo.modulo.pontosJog, 0);
-    EXPECT_FALSE(t.chamou("abreJanela FrmPlacar"));
-    EXPECT_EQ(t.jogo.mesa.qtdJog, 10);
-}
-
-TEST(Ordenar, WaitsWhileTheMachinePlays) {
-    JogoDeTeste t;
-    t.arma("9/1 2/3 9/3 1/4 13/2 5/1 6/2 7/3 8/4", kMac);
-    t.jogo.modulo.assistido = 1;
-    t.jogo.maosEmJogo = true;
-    Label4_Click(t.jogo);
-    EXPECT_TRUE(t.vista.chamadas.empty());
+// Three trincas in nine cards win the hand at once; with a drawn card in hand they are shown,
+// and only a discard can win.
+TEST(Ordenar, ThreeTrincasWinOnlyWithNineCards) {
+    for (const char* mao :
+         {"13/4 1/4 7/3 6/2 12/4 5/2 7/2 4/2 7/1", "13/4 1/4 7/3 6/2 12/4 5/2 7/2 4/2 7/1 9/3"}) {
+        JogoDeTeste t;
+        t.arma(mao, kMac);
+        t.jogo.modulo.assistido = 1;
+        t.jogo.modulo.avisoOrdenar = true;
+        const bool nove = t.jogo.mesa.qtdJog == 9;
+        Label4_Click(t.jogo);
+        EXPECT_TRUE(t.chamou("mostraTrincas 3 trincas")) << mao;
+        EXPECT_EQ(t.jogo.modulo.pontosJog, nove ? 1 : 0) << mao;
+        EXPECT_EQ(t.chamou("abreJanela FrmPlacar"), nove) << mao;
+    }
 }
 
 } // namespace
