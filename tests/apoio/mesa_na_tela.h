@@ -22,16 +22,20 @@ struct MesaNaTela {
     Settings settings{pasta.filePath("Corvina.conf")};
     Imagens imagens{pastaDeImagens()};
     VistaQt vista{settings};
-    AcasoSemente acaso{7};
+    AcasoSemente acaso;
     NivelDaMesa nivel;
-    Jogo jogo{vista, acaso, nivel};
+    Jogo jogo;
     JanelaMesa janela{jogo, vista, imagens};
     std::vector<Janela> abertas;
 
-    MesaNaTela() {
+    // The deal from `semente`; the machine's seat played by `outro` when given (it must
+    // outlive the table), else by the level chosen; each step of a flight `pausaDoVoo` ms.
+    explicit MesaNaTela(std::uint64_t semente = 7, Nivel* outro = nullptr, int pausaDoVoo = 0)
+        : acaso(semente), jogo(vista, acaso, outro ? *outro : static_cast<Nivel&>(nivel)) {
         nivel.segue(jogo.modulo);
         vista.liga(jogo);
         vista.modoDeTeste(true);
+        if (pausaDoVoo > 0) vista.pausasDeTeste(pausaDoVoo);
         // The choice of player as the last one; the other windows close at once.
         vista.aoAbrirJanela = [this](Janela j) {
             abertas.push_back(j);
@@ -42,7 +46,9 @@ struct MesaNaTela {
         settings.grava(chaveBase(), ajuste::kUltimoJogador, "Teste");
         Form_Load(jogo);
         janela.show();
-        for (int i = 0; i < 5 && jogo.mesa.qtdJog == 0; ++i) QApplication::processEvents();
+        // The first activation deals, once the window is on the screen.
+        for (int i = 0; i < 200 && jogo.mesa.qtdJog == 0; ++i)
+            QApplication::processEvents(QEventLoop::AllEvents, 1);
     }
 
     void envia(QEvent::Type tipo, QPoint ponto, Qt::MouseButton botao, Qt::MouseButtons botoes) {

@@ -11,21 +11,13 @@
 #include <QAccessibleActionInterface>
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QKeyEvent>
-#include <QMouseEvent>
-#include <QTemporaryDir>
 #include <chrono>
-#include <memory>
 #include <random>
 #include <thread>
 #include <tuple>
 
-#include "core/ajustes.h"
-#include "core/pecas.h"
+#include "apoio/mesa_na_tela.h"
 #include "machine/classico.h"
-#include "midia/imagens.h"
-#include "players/qt/settings.h"
-#include "shell/janela_mesa.h"
 #include "shell/lugares_da_mesa.h"
 
 namespace corvina {
@@ -64,15 +56,12 @@ constexpr int kPausaDoVoo = 1; // ms per step of a flight: moves last a few even
 constexpr int kEventosPorPartida = 300;
 constexpr int kPrazoDoAssento = 10000; // ms for a move to end before the test calls it stuck
 
-struct MesaViva {
-    QTemporaryDir pasta;
-    Settings settings{pasta.filePath("Corvina.conf")};
-    Imagens imagens{pastaDeImagens()};
-    VistaQt vista{settings};
-    AcasoSemente acaso;
-    NivelLento nivel;
-    Jogo jogo{vista, acaso, nivel};
-    std::unique_ptr<JanelaMesa> janela;
+// The level first, so that it outlives the table that plays it.
+struct ComNivelLento {
+    NivelLento lento;
+};
+
+struct MesaViva : ComNivelLento, MesaNaTela {
     std::mt19937 sorte;
     QPoint ponteiro{400, 300};
     bool apertado = false;
@@ -82,42 +71,31 @@ struct MesaViva {
     std::optional<Figura> pretendida, devida;
     std::size_t descartesVistos = 0;
 
-    explicit MesaViva(unsigned semente) : acaso(semente), nivel(semente), sorte(semente) {
-        vista.liga(jogo);
-        vista.modoDeTeste(true);
-        vista.pausasDeTeste(kPausaDoVoo);
-        vista.aoAbrirJanela = [this](Janela j) {
-            if (j == Janela::FrmNome) jogo.modulo.nomeJogador = "Teste";
-        };
-        settings.grava(chaveBase(), ajuste::kPrimeiraVez, "1");
-        settings.grava(chaveBase(), ajuste::kUltimoJogador, "Teste");
-        janela = std::make_unique<JanelaMesa>(jogo, vista, imagens);
-        Form_Load(jogo);
-        janela->show();
-        // The first activation deals, once the window is on the screen.
-        for (int i = 0; i < 100 && m().qtdJog == 0; ++i) passa(1);
+    explicit MesaViva(unsigned semente)
+        : ComNivelLento{NivelLento(semente)}, MesaNaTela(semente, &lento, kPausaDoVoo),
+          sorte(semente) {
         assenta();
     }
 
     Mesa& m() { return jogo.mesa; }
     const Cena& cena() const { return vista.cena(); }
-    bool livre() { return !janela->condutor().ocupado() && !m().animando && !jogo.maosEmJogo; }
+    bool livre() { return !janela.condutor().ocupado() && !m().animando && !jogo.maosEmJogo; }
     Figura face(int casa) { return figuraDaFace(m().jogNaipe[casa], m().jogValor[casa]); }
     int sorteia(int n) { return std::uniform_int_distribution(0, n - 1)(sorte); }
 
     // --- the inputs, as the window gets them
     void mouse(QEvent::Type tipo, Qt::MouseButton botao) {
         const Qt::MouseButtons botoes = apertado ? Qt::LeftButton : Qt::NoButton;
-        QMouseEvent e(tipo, QPointF(ponteiro), janela->mapToGlobal(QPointF(ponteiro)), botao,
-                      botoes, Qt::NoModifier);
-        QApplication::sendEvent(janela.get(), &e);
+        QMouseEvent e(tipo, QPointF(ponteiro), janela.mapToGlobal(QPointF(ponteiro)), botao, botoes,
+                      Qt::NoModifier);
+        QApplication::sendEvent(&janela, &e);
     }
     QPoint alvo() {
         const int i = sorteia(8);
         if (i < 3)
-            return janela->retanguloDa(peca::cj(static_cast<int16>(1 + sorteia(10)))).center();
-        if (i == 3) return janela->retanguloDa(peca::kCostas2).center();
-        if (i == 4) return janela->retanguloDa(peca::kDiscartado).center();
+            return janela.retanguloDa(peca::cj(static_cast<int16>(1 + sorteia(10)))).center();
+        if (i == 3) return janela.retanguloDa(peca::kCostas2).center();
+        if (i == 4) return janela.retanguloDa(peca::kDiscartado).center();
         if (i == 5) return lugar::kDica.center(); // the texts lie under passing cards
         if (i == 6) return lugar::kNivel.center();
         return {sorteia(800), 120 + sorteia(420)};
@@ -128,7 +106,7 @@ struct MesaViva {
         const auto& ordem = cena().ordem();
         for (auto it = ordem.rbegin(); it != ordem.rend(); ++it) {
             const Sprite& s = cena()[*it];
-            if (!s.Visible || !janela->retanguloDa(*it).contains(ponteiro)) continue;
+            if (!s.Visible || !janela.retanguloDa(*it).contains(ponteiro)) continue;
             const bool daFila = it->parte == Parte::cj || *it == peca::kPicmover;
             if (daFila && s.Top < m().yMao) return s.Picture;
             return std::nullopt;
@@ -165,10 +143,10 @@ struct MesaViva {
         const bool descarta = (k == Qt::Key_Return || k == Qt::Key_Space) && mods == 0;
         if (descarta && foco >= 1 && livre()) pretendida = cena()[peca::cj(foco)].Picture;
         QKeyEvent e(QEvent::KeyPress, k, mods);
-        QApplication::sendEvent(janela.get(), &e);
+        QApplication::sendEvent(&janela, &e);
     }
     void leitor() {
-        QAccessibleInterface* mesa = QAccessible::queryAccessibleInterface(janela.get());
+        QAccessibleInterface* mesa = QAccessible::queryAccessibleInterface(&janela);
         const int filho = sorteia(mesa->childCount());
         QAccessibleInterface* parte = mesa->child(filho);
         QAccessibleActionInterface* acoes = parte ? parte->actionInterface() : nullptr;
@@ -210,7 +188,7 @@ struct MesaViva {
             const int16 foco = cena().foco;
             if (foco >= 1)
                 entrada("clica no foco",
-                        [&] { clica(janela->retanguloDa(peca::cj(foco)).center()); });
+                        [&] { clica(janela.retanguloDa(peca::cj(foco)).center()); });
             break;
         }
         case 2:
@@ -234,7 +212,7 @@ struct MesaViva {
         case 8: {
             // A card taken from the row and carried, over the texts too, and let go.
             const int16 casa = static_cast<int16>(1 + sorteia(m().qtdJog < 1 ? 1 : m().qtdJog));
-            entrada("sobre", [&] { move(janela->retanguloDa(peca::cj(casa)).center()); });
+            entrada("sobre", [&] { move(janela.retanguloDa(peca::cj(casa)).center()); });
             entrada("aperta", [&] { aperta(); });
             const QPoint de = ponteiro, para = alvo();
             const int passos = 1 + sorteia(4);
@@ -289,7 +267,7 @@ struct MesaViva {
         confereDescartes();
         if (m().arrastando == 1 && livre()) return confereArraste();
         if (livre()) confereFila();
-        if (const auto d = janela->dicaAtual(); d && d->tipo == Dica::Tipo::Carta) {
+        if (const auto d = janela.dicaAtual(); d && d->tipo == Dica::Tipo::Carta) {
             ASSERT_TRUE(d->casa >= 1 && d->casa <= m().qtdJog);
             const std::string nome = nomeDaCarta(cartaNa(m().jogValor, m().jogNaipe, d->casa));
             EXPECT_NE(d->texto.find(nome), std::string::npos)
@@ -319,14 +297,14 @@ struct MesaViva {
         ASSERT_TRUE(mover.Visible);
         ASSERT_EQ(mover.Picture, face(m().cartaAtual)) << "the card in the hand is another";
         // Always where it lies over a text of the felt; elsewhere now and then (a grab is dear).
-        const QRect onde = janela->retanguloDa(peca::kPicmover);
+        const QRect onde = janela.retanguloDa(peca::kPicmover);
         const bool sobreTexto =
             onde.intersects(lugar::kNivel.united(lugar::kQuatroCores)) ||
             onde.intersects(lugar::kLabel6.translated(lugar::kPainel)) ||
             onde.intersects(lugar::kPlacar1.united(lugar::kPlacar2).translated(lugar::kPainel));
         if (!sobreTexto && sorteia(8) != 0) return;
         // What is painted where the held card is: the card, nothing over it.
-        const QImage tela = janela->grab().toImage().convertToFormat(QImage::Format_ARGB32);
+        const QImage tela = janela.grab().toImage().convertToFormat(QImage::Format_ARGB32);
         const QImage carta =
             imagens.recortada(mover.Picture).toImage().convertToFormat(QImage::Format_ARGB32);
         const QPoint canto = onde.topLeft();
@@ -363,7 +341,7 @@ TEST(MisturaNaMesa, MixedInputKeepsThePicturesOnTheGame) {
         ASSERT_EQ(t.m().qtdJog, kCartasNaMao);
         for (int i = 0; i < kEventosPorPartida && !::testing::Test::HasFailure(); ++i) {
             t.evento();
-            if (!t.janela->isVisible()) break;
+            if (!t.janela.isVisible()) break;
         }
         if (::testing::Test::HasFailure()) {
             std::string ultimos;
@@ -373,7 +351,7 @@ TEST(MisturaNaMesa, MixedInputKeepsThePicturesOnTheGame) {
             FAIL() << "last events: " << ultimos;
         }
         // Closed at once, whatever is under way: a flight, the machine thinking, a hint.
-        t.janela->close();
+        t.janela.close();
     }
 }
 
