@@ -3,8 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
-
 #include "apoio/baralho_roteiro.h"
 #include "apoio/jogo_de_teste.h"
 #include "core/ajustes.h"
@@ -41,6 +39,18 @@ TEST(CompraDoBaralho, TakesTheHighEndOfTheStockToSlotTen) {
     EXPECT_TRUE(t.chamou("mostraPrompt Agora descarte uma de suas cartas"));
     EXPECT_EQ(t.vista.chamadas.back(), "mostraTrincas ") << "the count of the ten cards comes last";
     EXPECT_FALSE(t.jogo.mesa.animando);
+}
+
+TEST(CompraDoBaralho, SecondDrawIsRefusedAndChangesNothing) {
+    JogoDeTeste t;
+    t.arma(std::string(kJog) + " 13/1", kMac, "9/4", "1/3 2/3");
+    t.jogo.modulo.tocarSom = true;
+    ateOFim(costas2_Click(t.jogo));
+    EXPECT_TRUE(t.chamou(kRecusa));
+    EXPECT_EQ(t.jogo.mesa.qtdBaralho, 2);
+    EXPECT_EQ(t.jogo.mesa.qtdJog, 10);
+    EXPECT_TRUE(t.vista.chamadasDe("tocaSom").empty());
+    EXPECT_EQ(t.vista.chamadas.back(), "habilitaPeca costas2 1");
 }
 
 TEST(CompraDoBaralho, EmptyStockSoundsThenEndsTheHandWithNoPoint) {
@@ -80,52 +90,23 @@ TEST(CompraDoDescarte, TakesTheTopAndCapsThePileAtFour) {
     EXPECT_LT(t.ordem("MostraDiscarts"), t.ordem("voaCarta discartado2 1.5"));
 }
 
-// A move out of its time is refused and changes nothing: a draw of either kind with ten cards
-// (told, no sound), a discard with nine or of a slot outside the hand (silently).
-TEST(Jogada, OutOfItsTimeIsRefusedAndChangesNothing) {
-    const std::string dez = std::string(kJog) + " 13/1";
-    const struct {
-        const char* caso;
-        std::string mao;
-        std::function<void(Jogo&)> joga;
-        const char* ultima; // the table's last call, after the warning; nullptr: no call at all
-    } casos[] = {
-        {"a second draw", dez, [](Jogo& j) { ateOFim(costas2_Click(j)); },
-         "habilitaPeca costas2 1"},
-        {"the pile with ten", dez, [](Jogo& j) { ateOFim(Discartado_Click(j)); },
-         "habilitaPeca Discartado 1"},
-        {"a discard with nine",
-         kJog,
-         [](Jogo& j) { EXPECT_EQ(ateOFim(descartaJog(j, 3)), Descarte::Recusado); },
-         {}},
-        {"slot 0",
-         dez,
-         [](Jogo& j) { EXPECT_EQ(ateOFim(descartaJog(j, 0)), Descarte::Recusado); },
-         {}},
-        {"slot 11",
-         dez,
-         [](Jogo& j) { EXPECT_EQ(ateOFim(descartaJog(j, 11)), Descarte::Recusado); },
-         {}},
-    };
-    for (const auto& c : casos) {
-        JogoDeTeste t;
-        t.arma(c.mao, kMac, "9/4", "1/3 2/3");
-        t.jogo.modulo.tocarSom = true;
-        const Mesa antes = t.jogo.mesa;
-        c.joga(t.jogo);
-        if (c.ultima) {
-            EXPECT_TRUE(t.chamou(kRecusa)) << c.caso;
-            EXPECT_EQ(t.vista.chamadas.back(), c.ultima) << c.caso;
-            EXPECT_TRUE(t.vista.chamadasDe("tocaSom").empty()) << c.caso;
-        } else {
-            EXPECT_TRUE(t.vista.chamadas.empty()) << c.caso;
-        }
-        EXPECT_EQ(textoDaMao(t.jogo.mesa, Lado::Jog),
-                  textoDaMao(const_cast<Mesa&>(antes), Lado::Jog))
-            << c.caso;
-        EXPECT_EQ(t.jogo.mesa.qtdBaralho, antes.qtdBaralho) << c.caso;
-        EXPECT_EQ(t.jogo.modulo.qtdDescarte, 1) << c.caso;
-    }
+TEST(CompraDoDescarte, WithTenCardsIsRefused) {
+    JogoDeTeste t;
+    t.arma(std::string(kJog) + " 13/1", kMac, "9/4", "1/3");
+    ateOFim(Discartado_Click(t.jogo));
+    EXPECT_TRUE(t.chamou(kRecusa));
+    EXPECT_EQ(t.jogo.modulo.qtdDescarte, 1);
+    EXPECT_EQ(t.vista.chamadas.back(), "habilitaPeca Discartado 1");
+}
+
+TEST(Descarte, RefusedWithoutTenCardsOrOutsideTheHand) {
+    JogoDeTeste t;
+    t.arma(kJog, kMac, "9/4", "1/3");
+    EXPECT_EQ(ateOFim(descartaJog(t.jogo, 3)), Descarte::Recusado);
+    t.arma(std::string(kJog) + " 13/1", kMac, "9/4", "1/3");
+    EXPECT_EQ(ateOFim(descartaJog(t.jogo, 0)), Descarte::Recusado);
+    EXPECT_EQ(ateOFim(descartaJog(t.jogo, 11)), Descarte::Recusado);
+    EXPECT_TRUE(t.vista.chamadas.empty());
 }
 
 TEST(Descarte, NothingReachesTheHandsWhileADiscardIsUnderWay) {
