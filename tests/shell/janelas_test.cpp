@@ -74,33 +74,6 @@ TEST_F(Mesa, AFirstPlayerIsRegisteredAndPlaysInAssistedMode) {
     EXPECT_EQ(settings.le(chaveJogador("ZÉ D'ÁGUA"), "Assistido", ""), "1");
 }
 
-TEST_F(Mesa, NewMatchFromTheToolbarCanBeCancelledOrPlayed) {
-    lista({"Ana", "Bia"});
-    abre([](QWidget* w) { clica(w, "Label9"); });
-    jogo.modulo.pontosJog = 2;
-    const Carta primeira = cartaNa(jogo.mesa.jogValor, jogo.mesa.jogNaipe, 1);
-
-    quandoAbrir("FrmNome", [](QWidget* w) {
-        EXPECT_TRUE(parte(w, "Label15")->isVisible());
-        parte<QComboBox>(w, "Combo1")->setCurrentIndex(1);
-        emit parte<QComboBox>(w, "Combo1")->activated(1);
-        clica(w, "Label15");
-    });
-    tecla(Qt::Key_F3);
-    EXPECT_EQ(jogo.modulo.pontosJog, 2) << "cancelled: the hand goes on";
-    EXPECT_EQ(cartaNa(jogo.mesa.jogValor, jogo.mesa.jogNaipe, 1), primeira);
-    EXPECT_EQ(jogo.modulo.nomeJogador, "Bia") << "the name follows the selection";
-    EXPECT_EQ(tocados(), std::vector<std::string>{"click2.wav"}) << "F3 is the NOVO button";
-
-    jogo.modulo.tocarMusica = true;
-    midi.comandos.clear();
-    quandoAbrir("FrmNome", [](QWidget* w) { QTest::keyClick(w, Qt::Key_Return); });
-    QTest::mouseClick(&janela, Qt::LeftButton, {}, QPoint(80, 95)); // NOVO
-    EXPECT_EQ(jogo.modulo.pontosJog, 0) << "a new match";
-    EXPECT_EQ(midi.comandos.front(), "close musica") << "the choice plays the music";
-    EXPECT_EQ(midi.comandos.back(), "stop musica");
-}
-
 TEST_F(Mesa, OptionsAreStoredOnOkAndLeftAloneOnCancel) {
     lista({"Ana"});
     abre([](QWidget* w) { clica(w, "Label9"); });
@@ -158,7 +131,8 @@ TEST_F(Mesa, EveryToolbarWordAndTheTitlesPictureOpenTheirWindow) {
         QPoint ponto;
         const char* janela;
         const char* fecha; // the part that closes it; Escape when none
-    } botoes[] = {{{210, 95}, "FrmOpc", "Label5"},
+    } botoes[] = {{{80, 95}, "FrmNome", "Label15"}, // cancelled: offered from the toolbar only
+                  {{210, 95}, "FrmOpc", "Label5"},
                   {{340, 95}, "FrmRecords", "Image3"},
                   {{470, 95}, "frmtipos", ""},
                   {{690, 40}, "FrmSobre", "Command1"}};
@@ -171,8 +145,11 @@ TEST_F(Mesa, EveryToolbarWordAndTheTitlesPictureOpenTheirWindow) {
             else
                 QTest::keyClick(w, Qt::Key_Escape);
         });
+        const Carta primeira = cartaNa(jogo.mesa.jogValor, jogo.mesa.jogNaipe, 1);
         QTest::mouseClick(&janela, Qt::LeftButton, {}, b.ponto);
         EXPECT_TRUE(abriu) << b.janela;
+        EXPECT_EQ(cartaNa(jogo.mesa.jogValor, jogo.mesa.jogNaipe, 1), primeira)
+            << b.janela << ": closed, the hand goes on";
     }
 }
 
