@@ -7,25 +7,15 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDate>
 #include <QLineEdit>
 #include <QSlider>
 #include <QStyle>
-#include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
 #include <functional>
-#include <memory>
 
 #include "apoio/mesa_com_janelas.h"
 #include "core/armazem_memoria.h"
-#include "core/novojogo.h"
 #include "core/pecas.h"
-#include "machine/autojogador.h"
-#include "machine/classico.h"
-#include "midia/audio/musica_fluidsynth.h"
-#include "midia/imagens.h"
-#include "midia/ondas_qt.h"
 #include "players/historico_do_jogador.h"
 #include "players/qt/frm_estatisticas.h"
 #include "players/qt/frm_nivel.h"
@@ -36,11 +26,8 @@
 #include "players/qt/frm_records.h"
 #include "players/qt/frm_sim_nao.h"
 #include "players/qt/janela_de_figura.h"
-#include "players/qt/settings.h"
 #include "shell/corvinahlp/janela_da_ajuda.h"
-#include "shell/janela_mesa.h"
 #include "shell/janelas_qt.h"
-#include "table/comandos.h"
 #include "update/qt/frm_sobre.h"
 #include "update/qt/frm_up.h"
 
@@ -130,7 +117,7 @@ TEST_F(Mesa, EveryToolbarWordAndTheTitlesPictureOpenTheirWindow) {
     const struct {
         QPoint ponto;
         const char* janela;
-        const char* fecha; // the part that closes it; Escape when none
+        const char* fecha;                          // the part that closes it; Escape when none
     } botoes[] = {{{80, 95}, "FrmNome", "Label15"}, // cancelled: offered from the toolbar only
                   {{210, 95}, "FrmOpc", "Label5"},
                   {{340, 95}, "FrmRecords", "Image3"},
@@ -303,47 +290,6 @@ TEST(FrmPlacar, TheNamesAndPointsBlinkOnlyAtTheEndOfAMatch) {
         EXPECT_EQ(placar.findChild<QWidget*>("Estatisticas") != nullptr, oferece)
             << jog << " x " << mac;
     }
-}
-
-TEST(PartidaComSom, AWholeMatchRunsWithSoundAndMusicOnAndNoAudioDevice) {
-    QTemporaryDir pasta;
-    Settings settings(pasta.filePath("Corvina.ini"));
-    VistaQt vista(settings);
-    OndasQt ondas;
-    MusicaFluidSynth musica;
-    Som som(pastaDosSons().toStdString(), ondas, musica);
-    AcasoSemente acaso(3);
-    Classico classico;
-    Jogo jogo(vista, acaso, classico);
-    vista.liga(jogo);
-    vista.som(&som);
-    vista.modoDeTeste(true);
-    int partidas = 0;
-    vista.aoAbrirJanela = [&](Janela j) {
-        if (j != Janela::FrmNome) return;
-        som.iniciaMusica(true);
-        ++partidas;
-        som.paraMusica();
-    };
-    jogo.modulo = {};
-    jogo.modulo.tocarSom = jogo.modulo.tocarMusica = true;
-    jogo.modulo.nomeJogador = "Ana";
-    jogo.modulo.velocidade = 1;
-    novojogo(jogo);
-    for (int vez = 0; vez < 5000 && partidas == 0; ++vez) jogaPeloJogador(jogo);
-    ASSERT_EQ(partidas, 1) << "a match was played to its end";
-    const std::string chave = chaveJogador("Ana");
-    const long vitorias = numeroDoTexto(settings.le(chave, "Vitorias", "0"));
-    EXPECT_EQ(vitorias + numeroDoTexto(settings.le(chave, "Derrotas", "0")), 1);
-    // The history has the match too, dated today, under the column of its level and deal.
-    const HistoricoDePartidas h = leHistoricoDoJogador(settings, "Ana");
-    ASSERT_EQ(h.partidas.size(), 1u);
-    const QDate hoje = QDate::currentDate();
-    EXPECT_EQ(h.partidas[0].dia, diaDoHistorico(hoje.year(), hoje.month(), hoje.day()));
-    EXPECT_EQ(h.estatisticas({TipoNivel::Classico, false}).vitorias, vitorias);
-    EXPECT_GE(h.partidas[0].maosGanhas + h.partidas[0].maosPerdidas, 4);
-    som.fechaMusica();
-    musica.aguardaComandos();
 }
 
 } // namespace

@@ -4,9 +4,14 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
+#include <QDate>
 #include <algorithm>
 
 #include "apoio/mesa_na_tela.h"
+#include "midia/audio/musica_fluidsynth.h"
+#include "midia/audio/som.h"
+#include "midia/ondas_qt.h"
+#include "players/historico_do_jogador.h"
 #include "players/qt/frm_nivel.h"
 #include "table/comandos.h"
 
@@ -43,10 +48,17 @@ TEST(MesaNaTela, TheKeysWalkTheRowAndCarryTheCardInFocus) {
 // A whole match by one way in alone, following the hint as its player takes it in: by the keys
 // (D; then B, P, or the slot's digit and Enter), or by a screen reader's actions alone (the
 // hint's action and its words, then "comprar", "pegar", or "descartar" on the card it names).
+// The sounds are on, through the real sound layer, and no audio device is there to hear them.
+// The match is recorded, and dated today in the player's history.
 TEST(MesaNaTela, AWholeMatchIsPlayedByTheKeysAloneAndByTheScreenReadersActionsAlone) {
     for (const bool leitor : {false, true}) {
         SCOPED_TRACE(leitor ? "leitor" : "teclas");
+        OndasQt ondas;
+        MusicaFluidSynth musica;
+        Som som(pastaDosSons().toStdString(), ondas, musica);
         MesaNaTela t;
+        t.vista.som(&som);
+        t.jogo.modulo.tocarSom = t.jogo.modulo.tocarMusica = true;
         QAccessibleInterface* mesa = QAccessible::queryAccessibleInterface(&t.janela);
         const auto parte = [&](const std::string& nome) -> QAccessibleInterface* {
             for (int i = 0; i < mesa->childCount(); ++i)
@@ -90,9 +102,15 @@ TEST(MesaNaTela, AWholeMatchIsPlayedByTheKeysAloneAndByTheScreenReadersActionsAl
         }
         EXPECT_EQ(partidas(), 1) << "a match was played to its end";
         const std::string chave = chaveJogador("Teste");
-        EXPECT_EQ(numeroDoTexto(t.settings.le(chave, ajuste::kVitorias, "0")) +
-                      numeroDoTexto(t.settings.le(chave, ajuste::kDerrotas, "0")),
-                  1);
+        const long vitorias = numeroDoTexto(t.settings.le(chave, ajuste::kVitorias, "0"));
+        EXPECT_EQ(vitorias + numeroDoTexto(t.settings.le(chave, ajuste::kDerrotas, "0")), 1);
+        const HistoricoDePartidas h = leHistoricoDoJogador(t.settings, "Teste");
+        ASSERT_EQ(h.partidas.size(), 1u);
+        const QDate hoje = QDate::currentDate();
+        EXPECT_EQ(h.partidas[0].dia, diaDoHistorico(hoje.year(), hoje.month(), hoje.day()));
+        EXPECT_EQ(h.estatisticas({TipoNivel::Classico, false}).vitorias, vitorias);
+        som.fechaMusica();
+        musica.aguardaComandos();
     }
 }
 
