@@ -4,9 +4,12 @@
 #include <QElapsedTimer>
 #include <QScreen>
 #include <QTimer>
+#include <unistd.h>
+
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <vector>
 
 #include "core/jogo.h"
 #include "machine/nivel_da_mesa.h"
@@ -22,6 +25,7 @@
 #include "shell/splash.h"
 #include "shell/vista_qt.h"
 #include "table/comandos.h"
+#include "table/tamanho_da_mesa.h"
 #include "update/versao.h"
 
 namespace {
@@ -59,11 +63,33 @@ struct Programa {
     }
 };
 
+// A large screen the desktop left at ratio 1 (a 4K monitor without scaling): the program
+// starts again with Qt's scale factor, as on a desktop that scales, so that the small windows
+// grow with the table. Any scaling the user asked of Qt is kept as it is, and the test
+// platforms have no screen to scale.
+void escalaATela(char** argumentos) {
+    for (const char* pedido : {"QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS",
+                               "QT_ENABLE_HIGHDPI_SCALING", "QT_USE_PHYSICAL_DPI"})
+        if (qEnvironmentVariableIsSet(pedido)) return;
+    const QString plataforma = QGuiApplication::platformName();
+    const QScreen* tela = QGuiApplication::primaryScreen();
+    if (!tela || plataforma == "offscreen" || plataforma == "minimal") return;
+    const int fator =
+        corvina::fatorDaTela(tela->availableGeometry().height(), tela->devicePixelRatio());
+    if (fator <= 1) return;
+    qputenv("QT_SCALE_FACTOR", QByteArray::number(fator));
+    ::execv("/proc/self/exe", argumentos);
+    qunsetenv("QT_SCALE_FACTOR"); // it could not start again: this run goes on unscaled
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
     using namespace corvina;
+    std::vector<char*> argumentos(argv, argv + argc); // as given: Qt takes its own out of argv
+    argumentos.push_back(nullptr);
     QApplication app(argc, argv);
+    escalaATela(argumentos.data());
     QApplication::setOrganizationName("Lunaris");
     QApplication::setApplicationName("Corvina");
     const Versao versao = versaoDoPrograma();

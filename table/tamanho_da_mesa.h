@@ -19,4 +19,10 @@ int maiorTamanhoQueCabe(int larguraLivre, int alturaLivre);
 // isn't one of the sizes counts as the nearest below it, and 100 at least).
 int tamanhoDaMesa(std::string_view guardado, int larguraLivre, int alturaLivre);
 
+// The scale the whole program asks of the screen, so that the small windows, drawn for a
+// table of 800 by 600, don't stand a quarter of their size beside a large one: 2 or 3 on a
+// screen of that many times a common one's free height that the desktop left at ratio 1 (a
+// 4K monitor without scaling), else 1. The table's size is then chosen in the scaled pixels.
+int fatorDaTela(int alturaLivre, double razao);
+
 } // namespace corvina

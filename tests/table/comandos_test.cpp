@@ -117,6 +117,15 @@ TEST(TamanhoDaMesa, TheLargestThatFitsOrTheOneChosen) {
     for (const auto& c : casos)
         EXPECT_EQ(tamanhoDaMesa(c.guardado, c.largura, c.altura), c.tamanho)
             << c.largura << "x" << c.altura << " \"" << c.guardado << "\"";
+    // The whole program's scale: only where the desktop left a large screen at ratio 1.
+    const struct {
+        int altura;
+        double razao;
+        int fator;
+    } telas[] = {{1040, 1, 1}, {1400, 1, 1}, {1560, 1, 1}, {2100, 1, 2},   {2840, 1, 2},
+                 {4280, 1, 3}, {8600, 1, 3}, {2100, 2, 1}, {2100, 1.5, 1}, {0, 1, 1}};
+    for (const auto& t : telas)
+        EXPECT_EQ(fatorDaTela(t.altura, t.razao), t.fator) << t.altura << " at " << t.razao;
 }
 
 } // namespace
