@@ -46,10 +46,10 @@ FrmEstatisticas::FrmEstatisticas(QWidget* dono, const Module1& modulo, Armazem& 
     const int atual = jogador_->findText(QString::fromStdString(modulo.nomeJogador));
     if (atual >= 0) jogador_->setCurrentIndex(atual);
 
+    // Centred: a title as wide as its column would touch the next one's, right-aligned.
     for (std::size_t i = 0; i < kColunasDoQuadro; ++i)
         rotulo(("Coluna" + std::to_string(i)).c_str(), colunasDoQuadro()[i].titulo,
-               celula(static_cast<int>(i), kTopoDoCabecalho), 11, true, kOuro,
-               Qt::AlignRight | Qt::AlignVCenter);
+               celula(static_cast<int>(i), kTopoDoCabecalho), 11, true, kOuro, Qt::AlignCenter);
     const std::vector<LinhaDoQuadro> modelo = quadroDeEstatisticas({});
     for (std::size_t r = 0; r < modelo.size(); ++r) {
         const int top = kTopoDasLinhas + kAlturaDaLinha * static_cast<int>(r);
@@ -59,8 +59,7 @@ FrmEstatisticas::FrmEstatisticas(QWidget* dono, const Module1& modulo, Armazem& 
         std::array<QLabel*, kColunasDoQuadro> linha{};
         for (std::size_t i = 0; i < kColunasDoQuadro; ++i)
             linha[i] = rotulo(("Valor" + std::to_string(r) + "_" + std::to_string(i)).c_str(), "",
-                              celula(static_cast<int>(i), top), 12, false, kClaro,
-                              Qt::AlignRight | Qt::AlignVCenter);
+                              celula(static_cast<int>(i), top), 12, false, kClaro, Qt::AlignCenter);
         valores_.push_back(linha);
     }
 
