@@ -1,5 +1,7 @@
 #include "core/finaliza.h"
 
+#include <algorithm>
+
 #include "core/agrupa_mac.h"
 #include "core/ajustes.h"
 #include "core/lote_de_ajustes.h"
@@ -8,11 +10,30 @@
 namespace corvina {
 
 namespace {
-void somaAoRegistro(VistaMesa& v, const std::string& chave, const char* nome, long parcela) {
-    const long antes = numeroDoTexto(v.leAjuste(chave, nome, "0"));
-    v.gravaAjuste(chave, nome, std::to_string(antes + parcela));
+long numeroNaFaixa(VistaMesa& v, const std::string& chave, const char* nome, long menor) {
+    return std::clamp(numeroDoTexto(v.leAjuste(chave, nome, "0")), menor, kMaiorContagem);
+}
+
+// The record after this match; a stored figure out of range counts as its nearest bound.
+Recorde novoRecorde(VistaMesa& v, const std::string& nome, bool venceu) {
+    const std::string chave = chaveJogador(nome);
+    Recorde r{numeroNaFaixa(v, chave, ajuste::kVitorias, 0),
+              numeroNaFaixa(v, chave, ajuste::kDerrotas, 0),
+              numeroNaFaixa(v, chave, ajuste::kSaldo, -kMaiorContagem)};
+    long& contagem = venceu ? r.vitorias : r.derrotas;
+    contagem = std::min(contagem + 1, kMaiorContagem);
+    r.saldo = std::clamp(r.saldo + (venceu ? 1 : -1), -kMaiorContagem, kMaiorContagem);
+    return r;
 }
 } // namespace
+
+void gravaRecorde(VistaMesa& v, const FimDaPartida& fim) {
+    const std::string chave = chaveJogador(fim.nome);
+    const LoteDeAjustes lote(v); // the record moves as a whole
+    v.gravaAjuste(chave, ajuste::kVitorias, std::to_string(fim.recorde.vitorias));
+    v.gravaAjuste(chave, ajuste::kDerrotas, std::to_string(fim.recorde.derrotas));
+    v.gravaAjuste(chave, ajuste::kSaldo, std::to_string(fim.recorde.saldo));
+}
 
 void finaliza(Jogo& jogo, Lado quem) {
     VistaMesa& v = jogo.vista;
@@ -45,23 +66,21 @@ void finaliza(Jogo& jogo, Lado quem) {
         else if (g.pontosMac >= kPontosDaPartida)
             v.tocaSom(som::kFinalC, false);
     }
+    // The match is stored before its score window opens: whatever that window offers (the
+    // statistics) sees it, and a game killed while it is up has lost nothing.
+    const bool acabou = g.pontosJog == kPontosDaPartida || g.pontosMac == kPontosDaPartida;
+    if (acabou) {
+        const bool venceu = g.pontosJog == kPontosDaPartida;
+        // Fair is what the deal was: only Clássico may exchange the hands.
+        v.partidaTerminada({g.nomeJogador, g.nivel,
+                            !trocaNaDistribuicao(g.nivel, g.distribuicaoJusta), venceu, g.pontosJog,
+                            g.pontosMac, novoRecorde(v, g.nomeJogador, venceu)});
+    }
     v.abreJanela(Janela::FrmPlacar);
-    v.processaEventos();
     v.processaEventos();
     v.mostraTrincas("");
 
-    if (g.pontosJog == kPontosDaPartida || g.pontosMac == kPontosDaPartida) {
-        const std::string chave = chaveJogador(g.nomeJogador);
-        const bool venceu = g.pontosJog == kPontosDaPartida;
-        {
-            const LoteDeAjustes lote(v); // the record moves as a whole
-            somaAoRegistro(v, chave, venceu ? ajuste::kVitorias : ajuste::kDerrotas, 1);
-            somaAoRegistro(v, chave, ajuste::kSaldo, venceu ? 1 : -1);
-            // Fair is what the deal was: only Clássico may exchange the hands.
-            v.partidaTerminada({g.nomeJogador, g.nivel,
-                                !trocaNaDistribuicao(g.nivel, g.distribuicaoJusta), venceu,
-                                g.pontosJog, g.pontosMac});
-        }
+    if (acabou) {
         g.pontosMac = 0;
         g.pontosJog = 0;
         v.abreJanela(Janela::FrmNome);

@@ -13,6 +13,7 @@
 
 #include "core/carta.h"
 #include "core/nivel.h"
+#include "core/recorde.h"
 #include "core/tarefa.h"
 
 namespace corvina {
@@ -84,10 +85,15 @@ struct FimDaPartida {
     bool justa = false;
     bool venceu = false;
     int maosGanhas = 0, maosPerdidas = 0;
+    Recorde recorde; // the player's record with this match, as the store is to hold it
 };
 
 class Pausa;
 template <class T> class Pensamento;
+class VistaMesa;
+
+// The record of a match's end in the store, in one write.
+void gravaRecorde(VistaMesa& v, const FimDaPartida& fim);
 
 class VistaMesa {
   public:
@@ -153,9 +159,9 @@ class VistaMesa {
     // Several values stored as one write (see Armazem::abreLote).
     virtual void abreLote() {}
     virtual void fechaLote() {}
-    // A match ended (a side reached 4 points), told inside the batch that writes the record:
-    // the player's history keeps it.
-    virtual void partidaTerminada(const FimDaPartida& fim) { (void)fim; }
+    // A match ended (a side reached 4 points): the record goes to the store, and wherever the
+    // view keeps the history, the match goes there with it, as one.
+    virtual void partidaTerminada(const FimDaPartida& fim) { gravaRecorde(*this, fim); }
 };
 
 // The awaitable of a pause.

@@ -3,14 +3,15 @@
 #include "core/ajustes.h"
 #include "core/lote_de_ajustes.h"
 #include "players/dobra_nome.h"
-#include "players/historico_do_jogador.h"
 #include "players/lista_de_jogadores.h"
 #include "players/textos_jogadores.h"
 
 namespace corvina {
 
-EscolhaDeJogador::EscolhaDeJogador(Module1& modulo, Armazem& armazem, Arredores arredores)
-    : modulo_(modulo), armazem_(armazem), arredores_(std::move(arredores)) {}
+EscolhaDeJogador::EscolhaDeJogador(Module1& modulo, Armazem& armazem, Historicos& historicos,
+                                   Arredores arredores)
+    : modulo_(modulo), armazem_(armazem), historicos_(historicos),
+      arredores_(std::move(arredores)) {}
 
 void EscolhaDeJogador::preenche() {
     lista_ = leListaDeJogadores(armazem_);
@@ -116,7 +117,7 @@ void EscolhaDeJogador::excluir() {
         // The record stays, for a name registered again; the history goes with the player.
         const LoteDeAjustes lote(armazem_);
         tiraDaLista(armazem_, n);
-        apagaHistoricoDoJogador(armazem_, nome);
+        historicos_.apagaHistorico(nome);
     }
     preenche();
     seleciona(armazem_.le(chaveBase(), ajuste::jogador(1), ""));

@@ -8,6 +8,7 @@
 
 #include "core/armazem.h"
 #include "core/module1.h"
+#include "players/historicos.h"
 
 namespace corvina {
 
@@ -20,7 +21,8 @@ class EscolhaDeJogador {
         std::function<void()> iniciaMusica, paraMusica;
     };
 
-    EscolhaDeJogador(Module1& modulo, Armazem& armazem, Arredores arredores);
+    EscolhaDeJogador(Module1& modulo, Armazem& armazem, Historicos& historicos,
+                     Arredores arredores);
 
     // Loading: the list filled and a first entry selected. The cancel command works only when
     // the window was opened from the toolbar.
@@ -62,6 +64,7 @@ class EscolhaDeJogador {
 
     Module1& modulo_;
     Armazem& armazem_;
+    Historicos& historicos_;
     Arredores arredores_;
     std::vector<std::string> lista_;
     int selecionada_ = -1;

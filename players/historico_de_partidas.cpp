@@ -83,6 +83,17 @@ std::string escreveAntigas(const std::array<Estatisticas, kColunasDoHistorico>& 
     return t;
 }
 
+// Counts within 0..kMaiorContagem that add up, streaks no longer than the matches they run
+// along, a day no entry could hold: anything else is hostile, never used.
+bool totaisPlausiveis(const std::vector<long>& v) {
+    const auto conta = [](long n) { return n >= 0 && n <= kMaiorContagem; };
+    const long jogadas = v[0], vitorias = v[1], derrotas = v[2], sequencia = v[5];
+    return conta(jogadas) && conta(vitorias) && conta(derrotas) && conta(v[3]) && conta(v[4]) &&
+           vitorias + derrotas == jogadas && sequencia >= -derrotas && sequencia <= vitorias &&
+           conta(v[6]) && v[6] <= vitorias && conta(v[7]) && v[7] <= derrotas && v[8] >= -1 &&
+           v[8] < kBase * kBase * kBase;
+}
+
 bool leAntigas(std::string_view t, std::array<Estatisticas, kColunasDoHistorico>& antigas) {
     while (!t.empty()) {
         const std::size_t fim = t.find(';');
@@ -104,9 +115,7 @@ bool leAntigas(std::string_view t, std::array<Estatisticas, kColunasDoHistorico>
             v.push_back(n);
             coluna.remove_prefix(static_cast<std::size_t>(resto - coluna.data()));
         }
-        if (v.size() != kCamposDasAntigas || v[0] < 0 || v[1] < 0 || v[2] < 0 ||
-            v[1] + v[2] != v[0])
-            return false;
+        if (v.size() != kCamposDasAntigas || !totaisPlausiveis(v)) return false;
         antigas[indiceDaColuna({*nivel, justa})] = {
             v[0], v[1], v[2], v[3], v[4], v[5], v[6], v[7], static_cast<int>(v[8])};
     }
@@ -120,15 +129,18 @@ std::size_t indiceDaColuna(ColunaDoHistorico c) {
 }
 
 void Estatisticas::soma(const PartidaDoHistorico& p) {
+    // A full column takes no more: its figures stop rather than run over, and still add up.
+    if (jogadas >= kMaiorContagem) return;
+    const auto mais = [](long& n, long parcela) { n = std::min(n + parcela, kMaiorContagem); };
     ++jogadas;
-    (p.venceu ? vitorias : derrotas) += 1;
-    maosGanhas += p.maosGanhas;
-    maosPerdidas += p.maosPerdidas;
+    ++(p.venceu ? vitorias : derrotas);
+    mais(maosGanhas, p.maosGanhas);
+    mais(maosPerdidas, p.maosPerdidas);
     if (p.venceu) {
-        sequencia = sequencia > 0 ? sequencia + 1 : 1;
+        sequencia = sequencia > 0 ? std::min(sequencia + 1, kMaiorContagem) : 1;
         maiorSequenciaDeVitorias = std::max(maiorSequenciaDeVitorias, sequencia);
     } else {
-        sequencia = sequencia < 0 ? sequencia - 1 : -1;
+        sequencia = sequencia < 0 ? std::max(sequencia - 1, -kMaiorContagem) : -1;
         maiorSequenciaDeDerrotas = std::max(maiorSequenciaDeDerrotas, -sequencia);
     }
     ultimoDia = std::max(ultimoDia, p.dia);

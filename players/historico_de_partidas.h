@@ -12,10 +12,12 @@
 #include <string_view>
 
 #include "core/nivel.h"
+#include "core/recorde.h"
 
 namespace corvina {
 
 inline constexpr std::size_t kPartidasNoHistorico = 1000;
+
 
 // A match played to its end. `dia` counts days from 1 January 2000.
 struct PartidaDoHistorico {

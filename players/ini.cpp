@@ -252,7 +252,8 @@ std::size_t sequenciaUtf8(std::string_view t, std::size_t i) {
 bool pareceIni(std::string_view texto) {
     for (std::size_t i = 0; i < texto.size();) {
         const auto c = static_cast<unsigned char>(texto[i]);
-        if ((c < 0x20 && c != '\t' && c != '\r' && c != '\n') || c == 0x7F) return false;
+        // DEL passes: Qt writes it as it is.
+        if (c < 0x20 && c != '\t' && c != '\r' && c != '\n') return false;
         const std::size_t n = sequenciaUtf8(texto, i);
         if (n == 0) return false;
         i += n;

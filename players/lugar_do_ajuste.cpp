@@ -21,6 +21,36 @@ std::string codifica(std::string_view texto) {
     return saida;
 }
 
+std::string decodifica(std::string_view texto) {
+    const auto hex = [](char c) {
+        if (c >= '0' && c <= '9') return c - '0';
+        if ((c | 0x20) >= 'a' && (c | 0x20) <= 'f') return (c | 0x20) - 'a' + 10;
+        return -1;
+    };
+    std::string saida;
+    for (std::size_t i = 0; i < texto.size(); ++i) {
+        if (texto[i] == '%' && i + 2 < texto.size() && hex(texto[i + 1]) >= 0 &&
+            hex(texto[i + 2]) >= 0) {
+            saida += static_cast<char>(hex(texto[i + 1]) * 16 + hex(texto[i + 2]));
+            i += 2;
+        } else {
+            saida += texto[i];
+        }
+    }
+    return saida;
+}
+
+std::string chaveCanonica(std::string_view chave) {
+    std::string saida;
+    for (;;) {
+        const std::size_t barra = chave.find('/');
+        saida += codifica(dobraNome(decodifica(chave.substr(0, barra))));
+        if (barra == std::string_view::npos) return saida;
+        saida += '/';
+        chave.remove_prefix(barra + 1);
+    }
+}
+
 LugarDoAjuste lugarDoAjuste(std::string_view chave, std::string_view nome) {
     const std::string base = dobraNome(chaveBase());
     const std::string dobrada = dobraNome(chave);

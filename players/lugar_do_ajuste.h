@@ -17,5 +17,11 @@ LugarDoAjuste lugarDoAjuste(std::string_view chave, std::string_view nome);
 
 // Lower-case letters, digits and '_' stand for themselves; any other byte is "%XX".
 std::string codifica(std::string_view texto);
+// The bytes behind codifica's text; "%xx" in small letters too.
+std::string decodifica(std::string_view texto);
+
+// The one spelling of a key read from the file, whatever capitals or codes a hand gave it:
+// each part decoded, folded and coded again, so that "Corvina/Jogador1" is "corvina/jogador1".
+std::string chaveCanonica(std::string_view chave);
 
 } // namespace corvina

@@ -18,19 +18,19 @@ void JanelasQt::abre(Janela janela, const Placar& placar) {
         // Its cancel works only when a new match was asked for from the toolbar.
         const bool cancelavel = jogo_.cancelarNome;
         jogo_.cancelarNome = false;
-        FrmNome(dono_, m, armazem_, som_, cancelavel).exec();
+        FrmNome(dono_, m, armazem_, historicos_, som_, cancelavel).exec();
         break;
     }
     case Janela::FrmPlacar:
         FrmPlacar(dono_, m, placar, [this, &m](QWidget* placarAberto) {
-            FrmEstatisticas(placarAberto, m, armazem_).exec();
+            FrmEstatisticas(placarAberto, m, armazem_, historicos_).exec();
         }).exec();
         break;
     case Janela::FrmOpc:
         FrmOpc(dono_, m, armazem_).exec();
         break;
     case Janela::FrmRecords:
-        FrmRecords(dono_, m, armazem_, som_).exec();
+        FrmRecords(dono_, m, armazem_, historicos_, som_).exec();
         break;
     case Janela::frmtipos:
         FrmTipos(dono_, m, som_).exec();

@@ -6,14 +6,15 @@
 #include "core/armazem.h"
 #include "core/jogo.h"
 #include "midia/audio/som.h"
+#include "players/historicos.h"
 #include "update/versao.h"
 
 namespace corvina {
 
 class JanelasQt {
   public:
-    JanelasQt(Jogo& jogo, Armazem& armazem, Som* som, Versao versao)
-        : jogo_(jogo), armazem_(armazem), som_(som), versao_(versao) {}
+    JanelasQt(Jogo& jogo, Armazem& armazem, Historicos& historicos, Som* som, Versao versao)
+        : jogo_(jogo), armazem_(armazem), historicos_(historicos), som_(som), versao_(versao) {}
     void dono(QWidget* w) { dono_ = w; }
     // Returns when the window has closed.
     void abre(Janela janela, const Placar& placar);
@@ -21,6 +22,7 @@ class JanelasQt {
   private:
     Jogo& jogo_;
     Armazem& armazem_;
+    Historicos& historicos_;
     Som* som_;
     Versao versao_;
     QWidget* dono_ = nullptr;

@@ -1,7 +1,9 @@
 // Corvina: the splash for a second, the table prepared meanwhile, then the table.
 
 #include <QApplication>
+#include <QDir>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QScreen>
 #include <QTimer>
 #include <unistd.h>
@@ -9,6 +11,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "core/jogo.h"
@@ -17,8 +20,11 @@
 #include "midia/imagens.h"
 #include "midia/ondas_qt.h"
 #include "midia/pastas.h"
+#include "players/fim_da_partida.h"
 #include "players/highcor.h"
+#include "players/qt/caixa_do_sistema.h"
 #include "players/qt/settings.h"
+#include "players/textos_jogadores.h"
 #include "shell/janela_mesa.h"
 #include "shell/janelas_qt.h"
 #include "shell/mesa_acessivel.h"
@@ -30,11 +36,18 @@
 
 namespace {
 
+std::string bancoDoJogo() {
+    const QString pasta = corvina::pastaDeDados();
+    QDir().mkpath(pasta);
+    return QFile::encodeName(pasta + "/corvina.db").toStdString();
+}
+
 // Everything the table needs, built while the splash is up.
 struct Programa {
     corvina::Imagens imagens{corvina::pastaDeImagens()};
     corvina::Settings settings;
-    corvina::VistaQt vista{settings};
+    corvina::BancoDoJogo banco{bancoDoJogo()};
+    corvina::VistaQt vista{settings, banco};
     corvina::OndasQt ondas;
     corvina::MusicaFluidSynth musica;
     corvina::Som som{corvina::pastaDosSons().toStdString(), ondas, musica};
@@ -44,15 +57,30 @@ struct Programa {
     corvina::Jogo jogo{vista, acaso, nivel};
     corvina::JanelasQt janelas;
     corvina::JanelaMesa janela{jogo, vista, imagens};
+    bool avisouFalha = false;
 
-    explicit Programa(corvina::Versao versao) : janelas(jogo, settings, &som, versao) {
+    explicit Programa(corvina::Versao versao) : janelas(jogo, settings, banco, &som, versao) {
+        // A write that fails is told once a run; what it held is written at the next chance.
+        const auto avisa = [this] {
+            if (std::exchange(avisouFalha, true)) return;
+            QTimer::singleShot(0, &janela, [this] {
+                corvina::avisoDoSistema(&janela,
+                                        corvina::comQuebras(corvina::texto::kFalhaAoGravar), {},
+                                        QMessageBox::Warning);
+            });
+        };
+        settings.aoFalhar(avisa);
+        banco.aoFalhar(avisa);
+        corvina::preparaDados(settings, banco);
         vista.liga(jogo);
         vista.som(&som);
         vista.janelas(&janelas);
         janelas.dono(&janela);
         nivel.segue(jogo.modulo);
         // The run ends with the window: no hand in progress is kept, nothing waits.
-        janela.aoEncerrar([] {
+        janela.aoEncerrar([this] {
+            settings.salva();
+            banco.salva();
             std::fflush(nullptr);
             std::_Exit(0);
         });

@@ -2,7 +2,7 @@
 
 #include <QDate>
 
-#include "players/historico_do_jogador.h"
+#include "players/fim_da_partida.h"
 
 #include <QPointer>
 
@@ -35,7 +35,7 @@ void VistaQt::tocaSom(const std::string& arquivo, bool aguarda) {
     if (som_) som_->tocaSom(arquivo, aguarda);
 }
 
-VistaQt::VistaQt(Settings& settings) : settings_(settings) {
+VistaQt::VistaQt(Settings& settings, BancoDoJogo& banco) : settings_(settings), banco_(banco) {
     relogio_.setSingleShot(true);
     QObject::connect(&relogio_, &QTimer::timeout, [this] {
         if (auto h = std::exchange(pausada_, {})) h.resume();
@@ -121,9 +121,8 @@ void VistaQt::mudou() {
 
 void VistaQt::partidaTerminada(const FimDaPartida& fim) {
     const QDate hoje = QDate::currentDate();
-    registraNoHistorico(settings_, fim.nome,
-                        {diaDoHistorico(hoje.year(), hoje.month(), hoje.day()), fim.nivel,
-                         fim.justa, fim.venceu, fim.maosGanhas, fim.maosPerdidas});
+    registraFimDaPartida(settings_, banco_, fim,
+                         diaDoHistorico(hoje.year(), hoje.month(), hoje.day()));
 }
 
 } // namespace corvina

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "midia/audio/som.h"
+#include "players/banco_do_jogo.h"
 #include "players/qt/settings.h"
 #include "shell/janelas_qt.h"
 #include "table/vista_de_cena.h"
@@ -18,7 +19,7 @@ namespace corvina {
 
 class VistaQt : public VistaDeCena {
   public:
-    explicit VistaQt(Settings& settings);
+    VistaQt(Settings& settings, BancoDoJogo& banco);
     ~VistaQt() override;
     VistaQt(const VistaQt&) = delete;
     VistaQt& operator=(const VistaQt&) = delete;
@@ -62,6 +63,7 @@ class VistaQt : public VistaDeCena {
 
   private:
     Settings& settings_;
+    BancoDoJogo& banco_;
     QWidget* tela_ = nullptr;
     std::function<void()> aoMudar_;
     Som* som_ = nullptr;

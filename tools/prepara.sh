@@ -17,6 +17,7 @@ pacotes=(
   libfluidsynth-dev
   libasound2-dev
   libsodium-dev
+  libsqlite3-dev
   openssl
   file
   desktop-file-utils

@@ -7,7 +7,6 @@
 #include <QValueAxis>
 #include <algorithm>
 
-#include "players/historico_do_jogador.h"
 #include "players/lista_de_jogadores.h"
 #include "players/qt/lugar_da_janela.h"
 
@@ -31,8 +30,10 @@ QRect celula(int coluna, int top) {
 }
 } // namespace
 
-FrmEstatisticas::FrmEstatisticas(QWidget* dono, const Module1& modulo, Armazem& armazem)
-    : JanelaDeFigura(dono, "frmestatisticas", kTamanho), armazem_(armazem) {
+FrmEstatisticas::FrmEstatisticas(QWidget* dono, const Module1& modulo, Armazem& armazem,
+                                 Historicos& historicos)
+    : JanelaDeFigura(dono, "frmestatisticas", kTamanho), armazem_(armazem),
+      historicos_(historicos) {
     setObjectName("FrmEstatisticas");
     setWindowTitle("Estatísticas");
     alca(rotulo("Titulo", "", QRect(0, 0, kTamanho.width(), 36)));
@@ -82,7 +83,7 @@ FrmEstatisticas::FrmEstatisticas(QWidget* dono, const Module1& modulo, Armazem& 
 
 void FrmEstatisticas::mostra(const std::string& nome) {
     const HistoricoDePartidas h =
-        nome.empty() ? HistoricoDePartidas{} : leHistoricoDoJogador(armazem_, nome);
+        nome.empty() ? HistoricoDePartidas{} : historicos_.historico(nome);
     const std::vector<LinhaDoQuadro> quadro = quadroDeEstatisticas(h);
     for (std::size_t r = 0; r < quadro.size() && r < valores_.size(); ++r)
         for (std::size_t i = 0; i < kColunasDoQuadro; ++i)

@@ -8,6 +8,7 @@
 
 #include "core/armazem.h"
 #include "core/module1.h"
+#include "players/historicos.h"
 #include "players/qt/janela_de_figura.h"
 #include "players/quadro_de_estatisticas.h"
 
@@ -19,7 +20,7 @@ namespace corvina {
 class FrmEstatisticas : public JanelaDeFigura {
   public:
     // Shows the player of the table, or the first of the list.
-    FrmEstatisticas(QWidget* dono, const Module1& modulo, Armazem& armazem);
+    FrmEstatisticas(QWidget* dono, const Module1& modulo, Armazem& armazem, Historicos& historicos);
 
     // What the chart tells a screen reader, as it stands.
     QString resumo() const;
@@ -30,6 +31,7 @@ class FrmEstatisticas : public JanelaDeFigura {
   private:
     void mostra(const std::string& nome);
     Armazem& armazem_;
+    Historicos& historicos_;
     QComboBox* jogador_;
     std::vector<std::array<QLabel*, kColunasDoQuadro>> valores_;
     QChartView* grafico_;

@@ -20,9 +20,10 @@ const char* const kEstiloLista =
 
 } // namespace
 
-FrmNome::FrmNome(QWidget* dono, Module1& modulo, Armazem& armazem, Som* som, bool cancelavel)
+FrmNome::FrmNome(QWidget* dono, Module1& modulo, Armazem& armazem, Historicos& historicos, Som* som,
+                 bool cancelavel)
     : JanelaDeFigura(dono, "frmnome", {420, 288}), modulo_(modulo), armazem_(armazem), som_(som),
-      escolha_(modulo, armazem,
+      escolha_(modulo, armazem, historicos,
                {[this](const std::string& t) {
                     return perguntaDoSistema(this, QString::fromStdString(t), {},
                                              QMessageBox::Question);

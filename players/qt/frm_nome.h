@@ -15,7 +15,8 @@ namespace corvina {
 class FrmNome : public JanelaDeFigura {
   public:
     // `cancelavel`: opened from the toolbar, so its Cancelar works.
-    FrmNome(QWidget* dono, Module1& modulo, Armazem& armazem, Som* som, bool cancelavel);
+    FrmNome(QWidget* dono, Module1& modulo, Armazem& armazem, Historicos& historicos, Som* som,
+            bool cancelavel);
 
   protected:
     void primeiraAtivacao() override;

@@ -3,7 +3,7 @@
 #include <QMouseEvent>
 
 #include "core/textos.h"
-#include "players/historico_do_jogador.h"
+#include "players/lista_de_jogadores.h"
 #include "players/qt/frm_estatisticas.h"
 #include "players/qt/frm_sim_nao.h"
 #include "players/qt/lugar_da_janela.h"
@@ -15,9 +15,10 @@ namespace {
 const QColor kBranco(255, 255, 255), kVerde(0, 255, 0);
 }
 
-FrmRecords::FrmRecords(QWidget* dono, const Module1& modulo, Armazem& armazem, Som* som)
+FrmRecords::FrmRecords(QWidget* dono, const Module1& modulo, Armazem& armazem,
+                       Historicos& historicos, Som* som)
     : JanelaDeFigura(dono, "frmrecords", {642, 317}), modulo_(modulo), armazem_(armazem),
-      som_(som) {
+      historicos_(historicos), som_(som) {
     setObjectName("FrmRecords");
     setWindowTitle("Hall da Fama");
     for (int r = 0; r < kLinhasDoHall; ++r) {
@@ -42,7 +43,7 @@ FrmRecords::FrmRecords(QWidget* dono, const Module1& modulo, Armazem& armazem, S
     comando("Image4", "", emPixels(180, 4185, 1125, 315), [this] { zera(); });
     // Beside the hall: each player's own history.
     comando("Estatisticas", "", QRect(270, 279, 102, 21),
-            [this] { FrmEstatisticas(this, modulo_, armazem_).exec(); });
+            [this] { FrmEstatisticas(this, modulo_, armazem_, historicos_).exec(); });
     monta();
     vigiaTeclas();
     CentraJanela(*this);
@@ -72,7 +73,8 @@ void FrmRecords::zera() {
     zeraHall(armazem_);
     monta();
     // The histories are the players' own: asked apart, after the hall is wiped.
-    if (SimNao(this, texto::kZerarEstatisticas, texto::kConfirmacao)) zeraEstatisticas(armazem_);
+    if (SimNao(this, texto::kZerarEstatisticas, texto::kConfirmacao))
+        historicos_.zeraHistoricos(leListaDeJogadores(armazem_));
 }
 
 void FrmRecords::primeiraAtivacao() {

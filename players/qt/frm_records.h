@@ -7,13 +7,15 @@
 #include "core/module1.h"
 #include "midia/audio/som.h"
 #include "players/hall_da_fama.h"
+#include "players/historicos.h"
 #include "players/qt/janela_de_figura.h"
 
 namespace corvina {
 
 class FrmRecords : public JanelaDeFigura {
   public:
-    FrmRecords(QWidget* dono, const Module1& modulo, Armazem& armazem, Som* som);
+    FrmRecords(QWidget* dono, const Module1& modulo, Armazem& armazem, Historicos& historicos,
+               Som* som);
 
   protected:
     void primeiraAtivacao() override;
@@ -26,6 +28,7 @@ class FrmRecords : public JanelaDeFigura {
     void zera();
     const Module1& modulo_;
     Armazem& armazem_;
+    Historicos& historicos_;
     Som* som_;
     struct Linha {
         QLabel *nome, *vitorias, *derrotas, *saldo;

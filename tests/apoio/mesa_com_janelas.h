@@ -46,7 +46,8 @@ struct Mesa : testing::Test {
     QTemporaryDir pasta;
     Settings settings{pasta.filePath("Corvina.ini")};
     Imagens imagens{pastaDeImagens()};
-    VistaQt vista{settings};
+    BancoDoJogo banco{":memory:"};
+    VistaQt vista{settings, banco};
     OndasGravadas ondas;
     MidiGravado midi;
     std::string sons = pastaDosSons().toStdString();
@@ -54,7 +55,7 @@ struct Mesa : testing::Test {
     AcasoSemente acaso{7};
     Classico classico;
     Jogo jogo{vista, acaso, classico};
-    JanelasQt janelas{jogo, settings, &som, versaoDoPrograma()};
+    JanelasQt janelas{jogo, settings, banco, &som, versaoDoPrograma()};
     JanelaMesa janela{jogo, vista, imagens};
 
     Mesa() {

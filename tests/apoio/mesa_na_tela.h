@@ -21,7 +21,8 @@ struct MesaNaTela {
     QTemporaryDir pasta;
     Settings settings{pasta.filePath("Corvina.conf")};
     Imagens imagens{pastaDeImagens()};
-    VistaQt vista{settings};
+    BancoDoJogo banco{":memory:"};
+    VistaQt vista{settings, banco};
     AcasoSemente acaso;
     NivelDaMesa nivel;
     Jogo jogo;

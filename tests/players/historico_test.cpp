@@ -1,18 +1,15 @@
 // The players' history of matches: the statistics of each column against a plain count of the
-// matches, the cap that folds old matches into totals, a damaged history set aside, and the
-// store's size with every player at the cap.
+// matches, the cap that folds old matches into totals, and a damaged or hostile history set
+// aside.
 
 #include <gtest/gtest.h>
 
-#include <QFileInfo>
 #include <QTemporaryDir>
 #include <random>
+#include <sqlite3.h>
 #include <sstream>
 
-#include "core/ajustes.h"
-#include "core/armazem_memoria.h"
-#include "core/lote_de_ajustes.h"
-#include "players/historico_do_jogador.h"
+#include "players/banco_do_jogo.h"
 #include "players/qt/settings.h"
 #include "players/quadro_de_estatisticas.h"
 
@@ -101,6 +98,8 @@ TEST(HistoricoDePartidas, FoldingTheOldMatchesKeepsEveryFigure) {
     }
 }
 
+// Hostile or damaged histories, met in the database or in a store of an earlier version: kept
+// aside as they were, never used, and a new history begins.
 TEST(HistoricoDePartidas, ADamagedHistoryIsKeptAsideAndANewOneBegins) {
     const std::string boa = escreveHistorico([] {
                                 HistoricoDePartidas h;
@@ -118,21 +117,48 @@ TEST(HistoricoDePartidas, ADamagedHistoryIsKeptAsideAndANewOneBegins) {
         {"more than the cap", std::string(8 * (kPartidasNoHistorico + 1), '0'), ""},
         {"totals that don't add up", boa, "cn,3,1,1,0,0,0,1,1,5"},
         {"totals cut short", boa, "cn,3,1,2"},
+        {"a streak of the lowest number", boa, "cn,1,1,0,0,0,-9223372036854775808,0,0,0"},
+        {"a streak longer than the matches", boa, "cn,2,2,0,0,0,3,2,0,5"},
+        {"counts past a billion", boa, "cn,2000000000,2000000000,0,0,0,0,0,0,0"},
     };
+    // One statement on the file, as another program would run it; the first column it reads.
+    const auto sql = [](const std::string& db, const char* comando, const std::string& a = "",
+                        const std::string& b = "") {
+        sqlite3* bruto = nullptr;
+        sqlite3_stmt* st = nullptr;
+        sqlite3_open(db.c_str(), &bruto);
+        sqlite3_prepare_v2(bruto, comando, -1, &st, nullptr);
+        sqlite3_bind_text(st, 1, a.data(), static_cast<int>(a.size()), SQLITE_TRANSIENT);
+        sqlite3_bind_text(st, 2, b.data(), static_cast<int>(b.size()), SQLITE_TRANSIENT);
+        std::string lido = sqlite3_step(st) == SQLITE_ROW && sqlite3_column_text(st, 0)
+                               ? reinterpret_cast<const char*>(sqlite3_column_text(st, 0))
+                               : "";
+        sqlite3_finalize(st);
+        sqlite3_close(bruto);
+        return lido;
+    };
+    QTemporaryDir pasta;
     for (const auto& c : casos) {
-        ArmazemMemoria a;
-        a.grava(chaveJogador("Ana"), "Historico", c.partidas);
-        a.grava(chaveJogador("Ana"), "HistoricoAntigo", c.antigas);
-        EXPECT_TRUE(leHistoricoDoJogador(a, "Ana").partidas.empty()) << c.caso;
-        EXPECT_EQ(a.le(chaveJogador("Ana"), "HistoricoDanificado", ""), c.partidas) << c.caso;
-        registraNoHistorico(a, "Ana", partidas("f+")[0]);
-        EXPECT_EQ(leHistoricoDoJogador(a, "Ana").partidas.size(), 1u) << c.caso;
+        const std::string db = pasta.filePath(QString("%1.db").arg(&c - casos)).toStdString();
+        ASSERT_TRUE(BancoDoJogo(db).importaHistorico("Bia", boa, "")) << c.caso;
+        sql(db, "UPDATE historicos SET partidas = ?, antigas = ?", c.partidas, c.antigas);
+        BancoDoJogo banco(db);
+        EXPECT_TRUE(banco.historico("Bia").partidas.empty()) << c.caso;
+        banco.registraPartida("Bia", partidas("f+")[0], std::nullopt);
+        EXPECT_EQ(banco.historico("BIA").partidas.size(), 1u) << c.caso;
+        EXPECT_TRUE(banco.importaHistorico("Ana", c.partidas, c.antigas)) << c.caso;
+        EXPECT_TRUE(banco.historico("Ana").partidas.empty()) << c.caso;
+        for (const char* quem : {"bia", "ana"})
+            EXPECT_EQ(
+                sql(db, "SELECT partidas FROM historicos_danificados WHERE jogador = ?", quem),
+                c.partidas)
+                << c.caso << ": kept as it was";
     }
-    ArmazemMemoria a;
-    a.grava(chaveJogador("Ana"), "Historico", boa);
-    EXPECT_EQ(leHistoricoDoJogador(a, "Ana").partidas.size(), 3u);
-    apagaHistoricoDoJogador(a, "Ana");
-    EXPECT_TRUE(leHistoricoDoJogador(a, "Ana").partidas.empty());
+    BancoDoJogo banco(":memory:");
+    ASSERT_TRUE(banco.importaHistorico("Ana", boa, ""));
+    EXPECT_EQ(banco.historico("Ana").partidas.size(), 3u);
+    banco.apagaHistorico("ANA");
+    EXPECT_TRUE(banco.historico("Ana").partidas.empty());
 }
 
 // What the statistics window reads: a column per level, Clássico's fair deal apart, a dash
@@ -164,32 +190,6 @@ TEST(QuadroDeEstatisticas, TheFiguresAndTheirWords) {
     EXPECT_EQ(curvas[2].front().partida, 1);
     EXPECT_DOUBLE_EQ(curvas[2].back().fracao, 0.5);
     EXPECT_TRUE(curvas[0].empty()) << "Clássico's matches lie before the last hundred";
-}
-
-// Fifty players at the cap, with their records: the store stays under its limit of 1 MiB and
-// reads back whole.
-TEST(HistoricoDePartidas, FiftyPlayersAtTheCapFitTheStore) {
-    QTemporaryDir pasta;
-    const QString arquivo = pasta.filePath("Corvina.ini");
-    HistoricoDePartidas cheio;
-    for (std::size_t i = 0; i < kPartidasNoHistorico + 200; ++i)
-        cheio.registra({static_cast<int>(i), kNiveis[i % 3], i % 2 == 0, i % 3 != 0, 4, 3});
-    {
-        Settings s(arquivo);
-        const LoteDeAjustes lote(s);
-        for (int n = 1; n <= 50; ++n) {
-            const std::string nome = "Jogador " + std::to_string(n);
-            s.grava(chaveBase(), ajuste::jogador(n), nome);
-            for (const char* v : {"Vitorias", "Derrotas", "Saldo"})
-                s.grava(chaveJogador(nome), v, "-32768");
-            const TextoDoHistorico t = escreveHistorico(cheio);
-            s.grava(chaveJogador(nome), "Historico", t.partidas);
-            s.grava(chaveJogador(nome), "HistoricoAntigo", t.antigas);
-        }
-    }
-    EXPECT_LT(QFileInfo(arquivo).size(), 1024 * 1024);
-    Settings s(arquivo);
-    EXPECT_EQ(leHistoricoDoJogador(s, "Jogador 50"), cheio);
 }
 
 } // namespace

@@ -5,11 +5,11 @@
 
 #include "core/ajustes.h"
 #include "core/armazem_memoria.h"
+#include "players/banco_do_jogo.h"
 #include "players/dobra_nome.h"
 #include "players/escolha_de_jogador.h"
 #include "players/escolha_de_nivel.h"
 #include "players/hall_da_fama.h"
-#include "players/historico_do_jogador.h"
 #include "players/lista_de_jogadores.h"
 #include "players/novo_jogador.h"
 
@@ -18,6 +18,7 @@ namespace {
 
 struct Jogadores : testing::Test {
     ArmazemMemoria a;
+    BancoDoJogo banco{":memory:"};
     Module1 m;
     std::vector<std::string> acontecimentos;
     std::function<void()> aoAbrirNovo = [] {};
@@ -34,7 +35,7 @@ struct Jogadores : testing::Test {
         a.grava(chaveJogador(nome), "Saldo", s);
     }
     EscolhaDeJogador janela() {
-        return EscolhaDeJogador(m, a,
+        return EscolhaDeJogador(m, a, banco,
                                 {[this](const std::string& p) {
                                      acontecimentos.push_back("pergunta " + p);
                                      return respostaExcluir;
@@ -158,7 +159,7 @@ TEST_F(Jogadores, PlayingWithAnEmptyListIsSemNome) {
 TEST_F(Jogadores, DeletingClosesTheGapKeepsTheRecordAndDropsTheHistory) {
     lista({"Ana", "Bia", "Caio", "Duda"});
     registro("Bia", "2", "1", "1");
-    registraNoHistorico(a, "Bia", {1, TipoNivel::Forte, true, true, 4, 0});
+    banco.registraPartida("Bia", {1, TipoNivel::Forte, true, true, 4, 0}, std::nullopt);
     EscolhaDeJogador j = janela();
     j.carrega(false);
     j.seleciona("Bia");
@@ -172,7 +173,7 @@ TEST_F(Jogadores, DeletingClosesTheGapKeepsTheRecordAndDropsTheHistory) {
     EXPECT_EQ(a.le(chaveBase(), "Jogador4", "vazio"), "vazio");
     EXPECT_EQ(j.textoSelecionado(), "Ana");
     EXPECT_EQ(leRegistro(a, "Bia").vitorias, 2) << "registered again, Bia finds her record";
-    EXPECT_TRUE(leHistoricoDoJogador(a, "Bia").partidas.empty()) << "but not her history";
+    EXPECT_TRUE(banco.historico("Bia").partidas.empty()) << "but not her history";
 }
 
 TEST_F(Jogadores, TheRegisterCommandIsOffAtFiftyAndTheLastDeletionAsksForAPlayer) {

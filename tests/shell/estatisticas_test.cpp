@@ -5,7 +5,6 @@
 #include <QComboBox>
 
 #include "apoio/mesa_com_janelas.h"
-#include "players/historico_do_jogador.h"
 
 namespace corvina {
 namespace {
@@ -23,7 +22,7 @@ TEST_F(Mesa, TheHallOfFameShowsTheBestAndCanBeWiped) {
     jogo.modulo.nomeJogador = "Caio";
     jogo.modulo.tocarSom = true;
     jogo.modulo.tocarMusica = true;
-    registraNoHistorico(settings, "Bia", {9000, TipoNivel::Forte, true, true, 4, 2});
+    banco.registraPartida("Bia", {9000, TipoNivel::Forte, true, true, 4, 2}, {});
     // Sim to the hall, and then Sim to the statistics too.
     quandoAbrir("FrmSimNao", [](QWidget* w) {
         EXPECT_TRUE(parte<QLabel>(w, "Label1")->text().contains("Hall da Fama"));
@@ -45,7 +44,7 @@ TEST_F(Mesa, TheHallOfFameShowsTheBestAndCanBeWiped) {
     });
     tecla(Qt::Key_F5);
     EXPECT_EQ(settings.le(chaveJogador("Bia"), "Saldo", "vazio"), "vazio");
-    EXPECT_TRUE(leHistoricoDoJogador(settings, "Bia").partidas.empty());
+    EXPECT_TRUE(banco.historico("Bia").partidas.empty());
     EXPECT_EQ(tocados(), (std::vector<std::string>{"click2.wav", "delete.wav"}));
     EXPECT_EQ(midi.comandos,
               (std::vector<std::string>{
@@ -60,8 +59,8 @@ TEST_F(Mesa, TheStatisticsShowEachPlayersOwnHistory) {
     abre([](QWidget* w) { clica(w, "Label9"); });
     jogo.modulo.nomeJogador = "Ana";
     for (const bool venceu : {true, false, true})
-        registraNoHistorico(settings, "Ana", {9000, TipoNivel::Classico, false, venceu, 4, 2});
-    registraNoHistorico(settings, "Ana", {9001, TipoNivel::Forte, true, false, 1, 4});
+        banco.registraPartida("Ana", {9000, TipoNivel::Classico, false, venceu, 4, 2}, {});
+    banco.registraPartida("Ana", {9001, TipoNivel::Forte, true, false, 1, 4}, {});
     quandoAbrir("FrmRecords", [](QWidget* w) {
         clica(w, "Estatisticas");
         QTest::keyClick(w, Qt::Key_Escape);

@@ -16,7 +16,7 @@
 #include "apoio/mesa_com_janelas.h"
 #include "core/armazem_memoria.h"
 #include "core/pecas.h"
-#include "players/historico_do_jogador.h"
+#include "players/banco_do_jogo.h"
 #include "players/qt/frm_estatisticas.h"
 #include "players/qt/frm_nivel.h"
 #include "players/qt/frm_nome.h"
@@ -170,17 +170,18 @@ TEST(Textos, EveryTextFitsItsPlace) {
     Module1 m;
     m.nomeJogador = "Maria Helena"; // twelve letters, as long as a name can be
     ArmazemMemoria a;
+    BancoDoJogo banco(":memory:");
     a.grava(chaveBase(), ajuste::jogador(1), m.nomeJogador);
-    FrmNome nome(nullptr, m, a, nullptr, true);
+    FrmNome nome(nullptr, m, a, banco, nullptr, true);
     FrmNovoJogador novo(nullptr, m, a, [](const std::string&) {});
     FrmOpc opc(nullptr, m, a);
     FrmPlacar placar(nullptr, m, {"Parabéns, você foi o vencedor", 4, 3, false});
-    FrmRecords records(nullptr, m, a, nullptr);
+    FrmRecords records(nullptr, m, a, banco, nullptr);
     FrmSobre sobre(nullptr, versaoDoPrograma());
     FrmUp up(nullptr, "https://127.0.0.1:1/x.deb", "3.8.0", "");
     FrmNivel nivel(nullptr, m, a);
-    registraNoHistorico(a, m.nomeJogador, {9000, TipoNivel::Classico, true, true, 4, 3});
-    FrmEstatisticas estatisticas(nullptr, m, a);
+    banco.registraPartida(m.nomeJogador, {9000, TipoNivel::Classico, true, true, 4, 3}, {});
+    FrmEstatisticas estatisticas(nullptr, m, a, banco);
     for (QWidget* w : std::initializer_list<QWidget*>{&nome, &novo, &opc, &placar, &records, &sobre,
                                                       &up, &nivel, &estatisticas})
         confereTextos(w);

@@ -11,7 +11,6 @@
 #include "midia/audio/musica_fluidsynth.h"
 #include "midia/audio/som.h"
 #include "midia/ondas_qt.h"
-#include "players/historico_do_jogador.h"
 #include "players/qt/frm_nivel.h"
 #include "table/comandos.h"
 
@@ -104,7 +103,7 @@ TEST(MesaNaTela, AWholeMatchIsPlayedByTheKeysAloneAndByTheScreenReadersActionsAl
         const std::string chave = chaveJogador("Teste");
         const long vitorias = numeroDoTexto(t.settings.le(chave, ajuste::kVitorias, "0"));
         EXPECT_EQ(vitorias + numeroDoTexto(t.settings.le(chave, ajuste::kDerrotas, "0")), 1);
-        const HistoricoDePartidas h = leHistoricoDoJogador(t.settings, "Teste");
+        const HistoricoDePartidas h = t.banco.historico("Teste");
         ASSERT_EQ(h.partidas.size(), 1u);
         const QDate hoje = QDate::currentDate();
         EXPECT_EQ(h.partidas[0].dia, diaDoHistorico(hoje.year(), hoje.month(), hoje.day()));

@@ -1,0 +1,290 @@
+#include "players/banco_do_jogo.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <sqlite3.h>
+#include <sys/stat.h>
+
+#include "players/dobra_nome.h"
+
+namespace corvina {
+
+namespace {
+
+inline constexpr int kVersaoDoEsquema = 1;
+
+inline constexpr const char* kEsquema = R"(
+CREATE TABLE IF NOT EXISTS versao (numero INTEGER NOT NULL);
+CREATE TABLE IF NOT EXISTS historicos (
+  jogador TEXT PRIMARY KEY, partidas TEXT NOT NULL, antigas TEXT NOT NULL);
+CREATE TABLE IF NOT EXISTS historicos_danificados (
+  jogador TEXT PRIMARY KEY, partidas BLOB, antigas BLOB);
+CREATE TABLE IF NOT EXISTS recordes_pendentes (
+  id INTEGER PRIMARY KEY, nome TEXT NOT NULL,
+  vitorias INTEGER NOT NULL, derrotas INTEGER NOT NULL, saldo INTEGER NOT NULL);
+)";
+
+// One prepared statement, finalized with its scope.
+class Comando {
+  public:
+    Comando(sqlite3* db, const char* sql) {
+        if (db) sqlite3_prepare_v2(db, sql, -1, &st_, nullptr);
+    }
+    ~Comando() { sqlite3_finalize(st_); }
+    Comando(const Comando&) = delete;
+    Comando& operator=(const Comando&) = delete;
+
+    Comando& texto(int i, std::string_view t) {
+        sqlite3_bind_text(st_, i, t.data(), static_cast<int>(t.size()), SQLITE_TRANSIENT);
+        return *this;
+    }
+    Comando& numero(int i, long n) {
+        sqlite3_bind_int64(st_, i, n);
+        return *this;
+    }
+    int passo() { return st_ ? sqlite3_step(st_) : SQLITE_ERROR; }
+    bool feito() { return passo() == SQLITE_DONE; }
+    std::string_view textoDa(int c) {
+        const auto* t = reinterpret_cast<const char*>(sqlite3_column_blob(st_, c));
+        return t ? std::string_view(t, static_cast<std::size_t>(sqlite3_column_bytes(st_, c)))
+                 : std::string_view();
+    }
+    long numeroDa(int c) { return static_cast<long>(sqlite3_column_int64(st_, c)); }
+
+  private:
+    sqlite3_stmt* st_ = nullptr;
+};
+
+std::string chaveDoJogador(const std::string& nome) {
+    return dobraNome(nome);
+}
+
+bool contagem(long n) {
+    return n >= 0 && n <= kMaiorContagem;
+}
+
+} // namespace
+
+BancoDoJogo::BancoDoJogo(const std::string& arquivo) {
+    struct stat st {};
+    const bool especial =
+        arquivo != ":memory:" && ::lstat(arquivo.c_str(), &st) == 0 && !S_ISREG(st.st_mode);
+    if (!especial && abre(arquivo)) return;
+    if (!especial) {
+        // Damaged, or not a database at all: kept for a person to recover, and begun anew.
+        sqlite3_close(db_);
+        db_ = nullptr;
+        const std::string lado = arquivo + ".danificado";
+        for (const char* parte : {"", "-wal", "-shm"})
+            std::rename((arquivo + parte).c_str(), (lado + parte).c_str());
+        std::fprintf(stderr, "corvina: %s could not be read as the game's data; kept as %s\n",
+                     arquivo.c_str(), lado.c_str());
+        if (abre(arquivo)) return;
+    }
+    std::fprintf(stderr, "corvina: %s can't be used; the game's data last for this run only\n",
+                 arquivo.c_str());
+    sqlite3_close(db_);
+    db_ = nullptr;
+    persistente_ = false;
+    abre(":memory:");
+}
+
+BancoDoJogo::~BancoDoJogo() {
+    salva();
+    sqlite3_close(db_);
+}
+
+bool BancoDoJogo::abre(const std::string& arquivo) {
+    if (sqlite3_open_v2(arquivo.c_str(), &db_,
+                        SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOFOLLOW,
+                        nullptr) != SQLITE_OK)
+        return false;
+    sqlite3_busy_timeout(db_, 3000);
+    if (!executa("PRAGMA journal_mode=WAL") || !executa("PRAGMA synchronous=FULL")) return false;
+    {
+        Comando checa(db_, "PRAGMA quick_check");
+        if (checa.passo() != SQLITE_ROW || checa.textoDa(0) != "ok") return false;
+    }
+    if (!executa("BEGIN IMMEDIATE")) return false;
+    if (!executa(kEsquema)) return executa("ROLLBACK") && false;
+    Comando versao(db_, "SELECT max(numero), count(*) FROM versao");
+    if (versao.passo() != SQLITE_ROW) return executa("ROLLBACK") && false;
+    const long numero = versao.numeroDa(0), linhas = versao.numeroDa(1);
+    if (linhas == 0) {
+        Comando poe(db_, "INSERT INTO versao (numero) VALUES (?)");
+        if (!poe.numero(1, kVersaoDoEsquema).feito()) return executa("ROLLBACK") && false;
+    } else if (numero != kVersaoDoEsquema) {
+        // Another version's data: nothing of it is changed.
+        executa("ROLLBACK");
+        std::fprintf(stderr, "corvina: %s is of another version of the game\n", arquivo.c_str());
+        sqlite3_close(db_);
+        db_ = nullptr;
+        return abre(":memory:") && (persistente_ = false, true);
+    }
+    return executa("COMMIT");
+}
+
+bool BancoDoJogo::executa(const char* sql) {
+    return sqlite3_exec(db_, sql, nullptr, nullptr, nullptr) == SQLITE_OK;
+}
+
+bool BancoDoJogo::falha(const char* onde) {
+    if (!avisado_) {
+        avisado_ = true;
+        std::fprintf(stderr,
+                     "corvina: the game's data could not be written (%s: %s); kept to be "
+                     "written later\n",
+                     onde, sqlite3_errmsg(db_));
+        if (aoFalhar_) aoFalhar_();
+    }
+    return false;
+}
+
+std::optional<HistoricoDePartidas> BancoDoJogo::leDoBanco(const std::string& chave) {
+    Comando le(db_, "SELECT partidas, antigas FROM historicos WHERE jogador = ?");
+    le.texto(1, chave);
+    if (le.passo() != SQLITE_ROW) return HistoricoDePartidas{};
+    if (auto h = leHistorico(le.textoDa(0), le.textoDa(1))) return h;
+    const std::string partidas(le.textoDa(0));
+    const std::string antigas(le.textoDa(1));
+    std::fprintf(stderr, "corvina: a damaged history of matches was set aside\n");
+    Comando tira(db_, "DELETE FROM historicos WHERE jogador = ?");
+    if (!guardaDanificado(chave, partidas, antigas) || !tira.texto(1, chave).feito())
+        falha("set aside");
+    return std::nullopt;
+}
+
+HistoricoDePartidas BancoDoJogo::historico(const std::string& nome) {
+    HistoricoDePartidas h = leDoBanco(chaveDoJogador(nome)).value_or(HistoricoDePartidas{});
+    for (const PartidaNaFila& f : fila_)
+        if (chaveDoJogador(f.nome) == chaveDoJogador(nome)) h.registra(f.partida);
+    return h;
+}
+
+bool BancoDoJogo::gravaHistorico(const std::string& chave, const HistoricoDePartidas& h) {
+    const TextoDoHistorico t = escreveHistorico(h);
+    Comando grava(db_, "INSERT OR REPLACE INTO historicos VALUES (?, ?, ?)");
+    return grava.texto(1, chave).texto(2, t.partidas).texto(3, t.antigas).feito();
+}
+
+void BancoDoJogo::apagaHistorico(const std::string& nome) {
+    zeraHistoricos({nome});
+}
+
+void BancoDoJogo::zeraHistoricos(const std::vector<std::string>& nomes) {
+    if (!executa("BEGIN IMMEDIATE")) {
+        falha("clear");
+        return;
+    }
+    bool ok = true;
+    for (const std::string& nome : nomes) {
+        const std::string chave = chaveDoJogador(nome);
+        std::erase_if(fila_,
+                      [&](const PartidaNaFila& f) { return chaveDoJogador(f.nome) == chave; });
+        for (const char* sql : {"DELETE FROM historicos WHERE jogador = ?",
+                                "DELETE FROM historicos_danificados WHERE jogador = ?"}) {
+            Comando apaga(db_, sql);
+            ok = ok && apaga.texto(1, chave).feito();
+        }
+    }
+    if (!ok || !executa("COMMIT")) {
+        executa("ROLLBACK");
+        falha("clear");
+    }
+}
+
+long BancoDoJogo::registraPartida(const std::string& nome, const PartidaDoHistorico& p,
+                                  const std::optional<Recorde>& recorde) {
+    // Matches waiting from before go first: the history keeps the order they were played in.
+    if (salva() && executa("BEGIN IMMEDIATE")) {
+        const std::string chave = chaveDoJogador(nome);
+        HistoricoDePartidas h = leDoBanco(chave).value_or(HistoricoDePartidas{});
+        h.registra(p);
+        bool ok = gravaHistorico(chave, h);
+        if (ok && recorde) {
+            Comando poe(db_, "INSERT INTO recordes_pendentes (nome, vitorias, derrotas, saldo) "
+                             "VALUES (?, ?, ?, ?)");
+            ok = poe.texto(1, nome)
+                     .numero(2, recorde->vitorias)
+                     .numero(3, recorde->derrotas)
+                     .numero(4, recorde->saldo)
+                     .feito();
+        }
+        const long id = recorde ? static_cast<long>(sqlite3_last_insert_rowid(db_)) : 0;
+        if (ok && executa("COMMIT")) return id;
+        executa("ROLLBACK");
+    }
+    falha("match");
+    fila_.push_back({nome, p});
+    return 0;
+}
+
+bool BancoDoJogo::salva() {
+    while (!fila_.empty()) {
+        const PartidaNaFila f = fila_.front();
+        const std::string chave = chaveDoJogador(f.nome);
+        if (!executa("BEGIN IMMEDIATE")) return falha("history");
+        HistoricoDePartidas h = leDoBanco(chave).value_or(HistoricoDePartidas{});
+        h.registra(f.partida);
+        if (!gravaHistorico(chave, h) || !executa("COMMIT")) {
+            executa("ROLLBACK");
+            return falha("history");
+        }
+        fila_.erase(fila_.begin());
+    }
+    return true;
+}
+
+std::vector<RecordePendente> BancoDoJogo::pendentes() {
+    std::vector<RecordePendente> lista;
+    Comando le(db_, "SELECT id, nome, vitorias, derrotas, saldo FROM recordes_pendentes "
+                    "ORDER BY id");
+    while (le.passo() == SQLITE_ROW) {
+        RecordePendente r{le.numeroDa(0),
+                          std::string(le.textoDa(1)),
+                          {le.numeroDa(2), le.numeroDa(3), le.numeroDa(4)}};
+        if (contagem(r.recorde.vitorias) && contagem(r.recorde.derrotas) &&
+            r.recorde.saldo >= -kMaiorContagem && r.recorde.saldo <= kMaiorContagem &&
+            !r.nome.empty())
+            lista.push_back(std::move(r));
+        else
+            std::fprintf(stderr, "corvina: a damaged record of a match's end was passed over\n");
+    }
+    return lista;
+}
+
+void BancoDoJogo::concluiPendente(long id) {
+    Comando tira(db_, "DELETE FROM recordes_pendentes WHERE id = ?");
+    if (!tira.numero(1, id).feito()) falha("record");
+}
+
+bool BancoDoJogo::importaHistorico(const std::string& nome, std::string_view partidas,
+                                   std::string_view antigas) {
+    const std::string chave = chaveDoJogador(nome);
+    if (!executa("BEGIN IMMEDIATE")) return falha("import");
+    Comando ha(db_, "SELECT 1 FROM historicos WHERE jogador = ?");
+    const int tem = ha.texto(1, chave).passo();
+    bool ok = tem == SQLITE_ROW || tem == SQLITE_DONE;
+    if (ok && tem == SQLITE_DONE) {
+        if (const auto h = leHistorico(partidas, antigas)) {
+            ok = gravaHistorico(chave, *h);
+        } else {
+            std::fprintf(stderr, "corvina: a damaged history of matches was set aside\n");
+            ok = guardaDanificado(chave, partidas, antigas);
+        }
+    }
+    if (!ok || !executa("COMMIT")) {
+        executa("ROLLBACK");
+        return falha("import");
+    }
+    return true;
+}
+
+bool BancoDoJogo::guardaDanificado(const std::string& nome, std::string_view partidas,
+                                   std::string_view antigas) {
+    Comando guarda(db_, "INSERT OR REPLACE INTO historicos_danificados VALUES (?, ?, ?)");
+    return guarda.texto(1, chaveDoJogador(nome)).texto(2, partidas).texto(3, antigas).feito() ||
+           falha("set aside");
+}
+
+} // namespace corvina
