@@ -42,6 +42,7 @@ class Comando {
         sqlite3_bind_int64(st_, i, n);
         return *this;
     }
+    bool preparado() const { return st_ != nullptr; }
     int passo() { return st_ ? sqlite3_step(st_) : SQLITE_ERROR; }
     bool feito() { return passo() == SQLITE_DONE; }
     std::string_view textoDa(int c) {
@@ -67,11 +68,12 @@ bool contagem(long n) {
 
 BancoDoJogo::BancoDoJogo(const std::string& arquivo) {
     struct stat st {};
-    const bool especial =
-        arquivo != ":memory:" && ::lstat(arquivo.c_str(), &st) == 0 && !S_ISREG(st.st_mode);
-    if (!especial && abre(arquivo)) return;
-    if (!especial) {
-        // Damaged, or not a database at all: kept for a person to recover, and begun anew.
+    // A link, a pipe or a device at its name is never opened.
+    Abertura a = arquivo != ":memory:" && ::lstat(arquivo.c_str(), &st) == 0 && !S_ISREG(st.st_mode)
+                     ? Abertura::Inacessivel
+                     : abre(arquivo);
+    if (a == Abertura::Danificado) {
+        // Not a database, or not ours: kept for a person to recover, and begun anew.
         sqlite3_close(db_);
         db_ = nullptr;
         const std::string lado = arquivo + ".danificado";
@@ -79,8 +81,10 @@ BancoDoJogo::BancoDoJogo(const std::string& arquivo) {
             std::rename((arquivo + parte).c_str(), (lado + parte).c_str());
         std::fprintf(stderr, "corvina: %s could not be read as the game's data; kept as %s\n",
                      arquivo.c_str(), lado.c_str());
-        if (abre(arquivo)) return;
+        a = abre(arquivo);
     }
+    if (a == Abertura::Aberto) return;
+    // Busy past waiting, out of reach, or another version's: left as it is.
     std::fprintf(stderr, "corvina: %s can't be used; the game's data last for this run only\n",
                  arquivo.c_str());
     sqlite3_close(db_);
@@ -94,34 +98,51 @@ BancoDoJogo::~BancoDoJogo() {
     sqlite3_close(db_);
 }
 
-bool BancoDoJogo::abre(const std::string& arquivo) {
+BancoDoJogo::Abertura BancoDoJogo::abre(const std::string& arquivo) {
     if (sqlite3_open_v2(arquivo.c_str(), &db_,
                         SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOFOLLOW,
                         nullptr) != SQLITE_OK)
-        return false;
+        return Abertura::Inacessivel;
     sqlite3_busy_timeout(db_, 3000);
-    if (!executa("PRAGMA journal_mode=WAL") || !executa("PRAGMA synchronous=FULL")) return false;
+    const auto erro = [this] {
+        const int e = sqlite3_errcode(db_);
+        desfaz();
+        return e == SQLITE_NOTADB || e == SQLITE_CORRUPT ? Abertura::Danificado
+                                                         : Abertura::Inacessivel;
+    };
+    if (!executa("PRAGMA journal_mode=WAL") || !executa("PRAGMA synchronous=FULL")) return erro();
     {
         Comando checa(db_, "PRAGMA quick_check");
-        if (checa.passo() != SQLITE_ROW || checa.textoDa(0) != "ok") return false;
+        const int passo = checa.passo();
+        if (passo != SQLITE_ROW) return erro();
+        if (checa.textoDa(0) != "ok") return Abertura::Danificado;
     }
-    if (!executa("BEGIN IMMEDIATE")) return false;
-    if (!executa(kEsquema)) return executa("ROLLBACK") && false;
+    if (!executa("BEGIN IMMEDIATE") || !executa(kEsquema)) return erro();
+    // Tables of the same names but other columns are not ours.
+    for (const char* forma : {"SELECT jogador, partidas, antigas FROM historicos",
+                              "SELECT jogador, partidas, antigas FROM historicos_danificados",
+                              "SELECT id, nome, vitorias, derrotas, saldo FROM recordes_pendentes"})
+        if (Comando c(db_, forma); !c.preparado()) {
+            desfaz();
+            return Abertura::Danificado;
+        }
     Comando versao(db_, "SELECT max(numero), count(*) FROM versao");
-    if (versao.passo() != SQLITE_ROW) return executa("ROLLBACK") && false;
+    if (versao.passo() != SQLITE_ROW) return erro();
     const long numero = versao.numeroDa(0), linhas = versao.numeroDa(1);
     if (linhas == 0) {
         Comando poe(db_, "INSERT INTO versao (numero) VALUES (?)");
-        if (!poe.numero(1, kVersaoDoEsquema).feito()) return executa("ROLLBACK") && false;
+        if (!poe.numero(1, kVersaoDoEsquema).feito()) return erro();
     } else if (numero != kVersaoDoEsquema) {
-        // Another version's data: nothing of it is changed.
-        executa("ROLLBACK");
+        desfaz();
         std::fprintf(stderr, "corvina: %s is of another version of the game\n", arquivo.c_str());
-        sqlite3_close(db_);
-        db_ = nullptr;
-        return abre(":memory:") && (persistente_ = false, true);
+        return Abertura::Inacessivel;
     }
-    return executa("COMMIT");
+    return executa("COMMIT") ? Abertura::Aberto : erro();
+}
+
+void BancoDoJogo::desfaz() {
+    // A failed commit may have rolled back already; a second rollback would only hide why.
+    if (!sqlite3_get_autocommit(db_)) executa("ROLLBACK");
 }
 
 bool BancoDoJogo::executa(const char* sql) {
@@ -188,7 +209,7 @@ void BancoDoJogo::zeraHistoricos(const std::vector<std::string>& nomes) {
         }
     }
     if (!ok || !executa("COMMIT")) {
-        executa("ROLLBACK");
+        desfaz();
         falha("clear");
     }
 }
@@ -212,7 +233,7 @@ long BancoDoJogo::registraPartida(const std::string& nome, const PartidaDoHistor
         }
         const long id = recorde ? static_cast<long>(sqlite3_last_insert_rowid(db_)) : 0;
         if (ok && executa("COMMIT")) return id;
-        executa("ROLLBACK");
+        desfaz();
     }
     falha("match");
     fila_.push_back({nome, p});
@@ -227,7 +248,7 @@ bool BancoDoJogo::salva() {
         HistoricoDePartidas h = leDoBanco(chave).value_or(HistoricoDePartidas{});
         h.registra(f.partida);
         if (!gravaHistorico(chave, h) || !executa("COMMIT")) {
-            executa("ROLLBACK");
+            desfaz();
             return falha("history");
         }
         fila_.erase(fila_.begin());
@@ -274,7 +295,7 @@ bool BancoDoJogo::importaHistorico(const std::string& nome, std::string_view par
         }
     }
     if (!ok || !executa("COMMIT")) {
-        executa("ROLLBACK");
+        desfaz();
         return falha("import");
     }
     return true;

@@ -60,8 +60,10 @@ class BancoDoJogo : public Historicos {
     void aoFalhar(std::function<void()> aviso) { aoFalhar_ = std::move(aviso); }
 
   private:
-    bool abre(const std::string& arquivo);
+    enum class Abertura { Aberto, Danificado, Inacessivel };
+    Abertura abre(const std::string& arquivo);
     bool executa(const char* sql);
+    void desfaz(); // the transaction open, if any
     bool falha(const char* onde);
     bool gravaHistorico(const std::string& chave, const HistoricoDePartidas& h);
     std::optional<HistoricoDePartidas> leDoBanco(const std::string& chave);

@@ -1,7 +1,10 @@
 #include "players/lista_de_jogadores.h"
 
+#include <algorithm>
+
 #include "core/ajustes.h"
 #include "core/lote_de_ajustes.h"
+#include "core/recorde.h"
 #include "players/dobra_nome.h"
 
 namespace corvina {
@@ -49,9 +52,13 @@ Cadastro procuraCadastro(Armazem& a, const std::string& digitado) {
 Registro leRegistro(Armazem& a, const std::string& nome) {
     const std::string chave = chaveJogador(nome);
     Registro r;
-    r.vitorias = numeroDoTexto(a.le(chave, ajuste::kVitorias, "0"));
-    r.derrotas = numeroDoTexto(a.le(chave, ajuste::kDerrotas, "0"));
-    r.saldo = numeroDoTexto(a.le(chave, ajuste::kSaldo, "0"));
+    // A figure out of range, typed by hand or hostile, counts as its nearest bound.
+    const auto numero = [&](const char* valor, long menor) {
+        return std::clamp(numeroDoTexto(a.le(chave, valor, "0")), menor, kMaiorContagem);
+    };
+    r.vitorias = numero(ajuste::kVitorias, 0);
+    r.derrotas = numero(ajuste::kDerrotas, 0);
+    r.saldo = numero(ajuste::kSaldo, -kMaiorContagem);
     r.assistido = numeroDoTexto(a.le(chave, ajuste::kAssistido, "0")) == 1;
     r.nivel = nivelDaChave(a.le(chave, ajuste::kNivel, "")).value_or(TipoNivel::Classico);
     r.distribuicaoJusta = booleanoDoTexto(a.le(chave, ajuste::kDistribuicaoJusta, "False"));

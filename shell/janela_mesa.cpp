@@ -85,7 +85,8 @@ JanelaMesa::JanelaMesa(Jogo& jogo, VistaQt& vista, const Imagens& imagens)
     vista_.tela(this);
     vista_.aoMudar([this] { leitores_.avisa(*this); });
     condutor_.aoMudar = [this] { mudou(); };
-    imagens_.usaQuatroCores(vista_.leAjuste(chaveBase(), ajuste::kQuatroCores, "False") == "True");
+    imagens_.usaQuatroCores(
+        booleanoDoTexto(vista_.leAjuste(chaveBase(), ajuste::kQuatroCores, "False")));
 }
 
 JanelaMesa::~JanelaMesa() {

@@ -6,9 +6,9 @@
 
 #include <QTemporaryDir>
 #include <random>
-#include <sqlite3.h>
 #include <sstream>
 
+#include "apoio/sql_bruto.h"
 #include "players/banco_do_jogo.h"
 #include "players/qt/settings.h"
 #include "players/quadro_de_estatisticas.h"
@@ -121,27 +121,12 @@ TEST(HistoricoDePartidas, ADamagedHistoryIsKeptAsideAndANewOneBegins) {
         {"a streak longer than the matches", boa, "cn,2,2,0,0,0,3,2,0,5"},
         {"counts past a billion", boa, "cn,2000000000,2000000000,0,0,0,0,0,0,0"},
     };
-    // One statement on the file, as another program would run it; the first column it reads.
-    const auto sql = [](const std::string& db, const char* comando, const std::string& a = "",
-                        const std::string& b = "") {
-        sqlite3* bruto = nullptr;
-        sqlite3_stmt* st = nullptr;
-        sqlite3_open(db.c_str(), &bruto);
-        sqlite3_prepare_v2(bruto, comando, -1, &st, nullptr);
-        sqlite3_bind_text(st, 1, a.data(), static_cast<int>(a.size()), SQLITE_TRANSIENT);
-        sqlite3_bind_text(st, 2, b.data(), static_cast<int>(b.size()), SQLITE_TRANSIENT);
-        std::string lido = sqlite3_step(st) == SQLITE_ROW && sqlite3_column_text(st, 0)
-                               ? reinterpret_cast<const char*>(sqlite3_column_text(st, 0))
-                               : "";
-        sqlite3_finalize(st);
-        sqlite3_close(bruto);
-        return lido;
-    };
     QTemporaryDir pasta;
     for (const auto& c : casos) {
         const std::string db = pasta.filePath(QString("%1.db").arg(&c - casos)).toStdString();
         ASSERT_TRUE(BancoDoJogo(db).importaHistorico("Bia", boa, "")) << c.caso;
-        sql(db, "UPDATE historicos SET partidas = ?, antigas = ?", c.partidas, c.antigas);
+        teste::sqlBruto(db, "UPDATE historicos SET partidas = ?, antigas = ?", c.partidas,
+                        c.antigas);
         BancoDoJogo banco(db);
         EXPECT_TRUE(banco.historico("Bia").partidas.empty()) << c.caso;
         banco.registraPartida("Bia", partidas("f+")[0], std::nullopt);
@@ -150,7 +135,8 @@ TEST(HistoricoDePartidas, ADamagedHistoryIsKeptAsideAndANewOneBegins) {
         EXPECT_TRUE(banco.historico("Ana").partidas.empty()) << c.caso;
         for (const char* quem : {"bia", "ana"})
             EXPECT_EQ(
-                sql(db, "SELECT partidas FROM historicos_danificados WHERE jogador = ?", quem),
+                teste::sqlBruto(db, "SELECT partidas FROM historicos_danificados WHERE jogador = ?",
+                                quem),
                 c.partidas)
                 << c.caso << ": kept as it was";
     }

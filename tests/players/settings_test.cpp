@@ -43,18 +43,6 @@ TEST_F(SettingsTest, AbsentAndEmptyReadAsTheDefault) {
     EXPECT_EQ(s.le(chaveBase(), "Velocidade", "6"), "9");
 }
 
-TEST_F(SettingsTest, KeysAndNamesIgnoreCaseAndSurviveARestart) {
-    {
-        Settings s(arquivo());
-        s.grava(chaveBase(), "TipoCarta", "7");
-        s.grava(chaveJogador("Ana"), "Vitorias", "3");
-    }
-    Settings s(arquivo());
-    EXPECT_EQ(s.le("SOFTWARE\\LUNARIS\\CORVINA", "Tipocarta", "4"), "7");
-    EXPECT_EQ(s.le(chaveJogador("ANA"), "vitorias", "0"), "3");
-    EXPECT_EQ(s.le(chaveJogador("Anabela"), "Vitorias", "0"), "0");
-}
-
 TEST_F(SettingsTest, OddNamesAreStoredAndReadBackAsThemselves) {
     const char* nomes[] = {"a/b", "..\\x", "Ação",  "[General]", "x=y",  "a\\Vitorias",
                            "%41", "A",     "Œuvre", "ΩMEGA",     "Ÿves", "😀 \t\"'"};
@@ -73,11 +61,6 @@ TEST_F(SettingsTest, OddNamesAreStoredAndReadBackAsThemselves) {
         EXPECT_EQ(s.le(chaveJogador(nome), "Vitorias", "0"), std::to_string(n)) << nome;
         EXPECT_EQ(s.le(chaveBase(), ajuste::jogador(n), ""), nome) << "names are data";
     }
-    EXPECT_EQ(s.le(chaveJogador("ação"), "Vitorias", "0"), "3") << "accents fold too";
-    EXPECT_EQ(s.le(chaveJogador("a"), "Vitorias", "0"), "8");
-    EXPECT_EQ(s.le(chaveJogador("œuvre"), "Vitorias", "0"), "9") << "capitals fold in any alphabet";
-    EXPECT_EQ(s.le(chaveJogador("ωmega"), "Vitorias", "0"), "10");
-    EXPECT_EQ(s.le(chaveJogador("ÿves"), "Vitorias", "0"), "11");
     EXPECT_EQ(s.le(chaveBase(), "Vitorias", "0"), "0");
 }
 

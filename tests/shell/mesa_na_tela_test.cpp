@@ -48,7 +48,7 @@ TEST(MesaNaTela, TheKeysWalkTheRowAndCarryTheCardInFocus) {
 // (D; then B, P, or the slot's digit and Enter), or by a screen reader's actions alone (the
 // hint's action and its words, then "comprar", "pegar", or "descartar" on the card it names).
 // The sounds are on, through the real sound layer, and no audio device is there to hear them.
-// The match is recorded, and dated today in the player's history.
+// The match is recorded, and dated today in the player's history before its last score window.
 TEST(MesaNaTela, AWholeMatchIsPlayedByTheKeysAloneAndByTheScreenReadersActionsAlone) {
     for (const bool leitor : {false, true}) {
         SCOPED_TRACE(leitor ? "leitor" : "teclas");
@@ -70,6 +70,11 @@ TEST(MesaNaTela, AWholeMatchIsPlayedByTheKeysAloneAndByTheScreenReadersActionsAl
         };
         const auto partidas = [&] {
             return std::count(t.abertas.begin(), t.abertas.end(), Janela::FrmNome) - 1;
+        };
+        std::size_t noPlacar = 0; // the history as the last score window found it
+        t.vista.aoAbrirJanela = [&, abre = t.vista.aoAbrirJanela](Janela j) {
+            if (j == Janela::FrmPlacar) noPlacar = t.banco.historico("Teste").partidas.size();
+            abre(j);
         };
         for (int vez = 0; vez < 4000 && partidas() == 0; ++vez) {
             leitor ? age("Dica", "dica") : t.tecla(Qt::Key_D);
@@ -105,6 +110,7 @@ TEST(MesaNaTela, AWholeMatchIsPlayedByTheKeysAloneAndByTheScreenReadersActionsAl
         EXPECT_EQ(vitorias + numeroDoTexto(t.settings.le(chave, ajuste::kDerrotas, "0")), 1);
         const HistoricoDePartidas h = t.banco.historico("Teste");
         ASSERT_EQ(h.partidas.size(), 1u);
+        EXPECT_EQ(noPlacar, 1u) << "what the last score window offers sees the match";
         const QDate hoje = QDate::currentDate();
         EXPECT_EQ(h.partidas[0].dia, diaDoHistorico(hoje.year(), hoje.month(), hoje.day()));
         EXPECT_EQ(h.estatisticas({TipoNivel::Classico, false}).vitorias, vitorias);
