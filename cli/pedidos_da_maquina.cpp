@@ -22,8 +22,7 @@ inline constexpr double kMsDaBusca = 50; // the search's time a decision in the 
 TipoNivel tipoDoNivel(const Pedido& p, const char* nome) {
     const std::string chave = texto(p, nome);
     if (const auto n = nivelDaChave(chave)) return *n;
-    throw PedidoInvalido(std::string("\"") + nome +
-                         "\" must be \"classico\", \"esperto\" or \"forte\"");
+    throw PedidoInvalido(std::string("\"") + nome + "\" must be " + chavesDosNiveis());
 }
 
 // The seer, told the hidden cards: the other hand and the stock, position 1 first.
@@ -48,9 +47,10 @@ Assento assentoDaArena(const Pedido& p, const char* nome) {
         return Assento::busca(p.contains("ms") ? static_cast<double>(inteiro(p, "ms", 1, 60000))
                                                : kMsDaBusca);
     if (const auto n = nivelDaChave(quem)) return *n;
-    throw PedidoInvalido(
-        std::string("\"") + nome +
-        "\" must be \"classico\", \"esperto\", \"forte\", \"vidente\" or \"busca\"");
+    std::string niveis = chavesDosNiveis();
+    niveis.replace(niveis.rfind(" or "), 4, ", ");
+    throw PedidoInvalido(std::string("\"") + nome + "\" must be " + niveis +
+                         ", \"vidente\" or \"busca\"");
 }
 
 } // namespace

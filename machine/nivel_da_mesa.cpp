@@ -2,17 +2,12 @@
 
 namespace corvina {
 
+NivelDaMesa::NivelDaMesa() {
+    for (std::size_t i = 0; i < niveis_.size(); ++i) niveis_[i] = kNiveisDoJogo[i].cria();
+}
+
 Nivel& NivelDaMesa::escolhido() {
-    if (!modulo_) return classico_;
-    switch (modulo_->nivel) {
-    case TipoNivel::Esperto:
-        return esperto_;
-    case TipoNivel::Forte:
-        return forte_;
-    case TipoNivel::Classico:
-        break;
-    }
-    return classico_;
+    return *niveis_[modulo_ ? indiceDoNivel(modulo_->nivel) : 0];
 }
 
 bool NivelDaMesa::pegaDescarte(const VisaoDoNivel& visao) {

@@ -3,17 +3,18 @@
 // a change in the level window counts from the next turn on. It answers on whatever thread asks;
 // the table asks on a worker while the window goes on, and never twice at once.
 
+#include <array>
+#include <memory>
+
 #include "core/module1.h"
-#include "core/nivel.h"
-#include "machine/classico.h"
-#include "machine/esperto.h"
-#include "machine/forte.h"
+#include "machine/niveis.h"
 
 namespace corvina {
 
 class NivelDaMesa : public Nivel {
   public:
-    // The settings whose level it plays; until then, Clássico.
+    NivelDaMesa();
+    // The settings whose level it plays; until then, the first level.
     void segue(const Module1& modulo) { modulo_ = &modulo; }
 
     bool pegaDescarte(const VisaoDoNivel& visao) override;
@@ -23,9 +24,7 @@ class NivelDaMesa : public Nivel {
     Nivel& escolhido();
 
     const Module1* modulo_ = nullptr;
-    Classico classico_;
-    Esperto esperto_;
-    Forte forte_;
+    std::array<std::unique_ptr<Nivel>, kNiveisDoJogo.size()> niveis_; // as in the table
 };
 
 } // namespace corvina

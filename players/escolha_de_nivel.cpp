@@ -17,12 +17,12 @@ void EscolhaDeNivel::confirma() {
     modulo_.distribuicaoJusta = justa_;
     const std::string chave = chaveJogador(modulo_.nomeJogador);
     const LoteDeAjustes lote(armazem_);
-    armazem_.grava(chave, ajuste::kNivel, std::string(chaveDoNivel(nivel_)));
+    armazem_.grava(chave, ajuste::kNivel, std::string(dadosDoNivel(nivel_).chave));
     armazem_.grava(chave, ajuste::kDistribuicaoJusta, textoBooleano(justa_));
 }
 
 std::string legendaDoNivel(TipoNivel n) {
-    return "Nível: " + std::string(nomeDoNivel(n));
+    return "Nível: " + std::string(dadosDoNivel(n).nome);
 }
 
 std::string legendaDaDistribuicao(TipoNivel n, bool distribuicaoJusta) {
@@ -31,12 +31,7 @@ std::string legendaDaDistribuicao(TipoNivel n, bool distribuicaoJusta) {
 }
 
 std::string descricaoDoNivel(TipoNivel n) {
-    static_assert(static_cast<int>(TipoNivel::Classico) == 0 &&
-                  static_cast<int>(TipoNivel::Forte) == 2);
-    constexpr const char* kDescricoes[] = {"A máquina de sempre; pode trocar as mãos.",
-                                           "Conta as cartas que faltam e as que já saíram.",
-                                           "Pensa duas compras adiante. O mais difícil."};
-    return kDescricoes[static_cast<int>(n)];
+    return std::string(dadosDoNivel(n).descricao);
 }
 
 } // namespace corvina

@@ -6,6 +6,7 @@
 
 #include "core/armazem.h"
 #include "core/module1.h"
+#include "machine/niveis.h"
 
 namespace corvina {
 

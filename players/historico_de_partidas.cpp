@@ -17,13 +17,7 @@ inline constexpr int kMaosDaPartida = 4;
 inline constexpr std::size_t kCamposDasAntigas = 9;
 
 char letraDoNivel(TipoNivel n) {
-    return chaveDoNivel(n).front(); // 'c', 'e', 'f'
-}
-
-std::optional<TipoNivel> nivelDaLetra(char c) {
-    for (const TipoNivel n : kNiveis)
-        if (letraDoNivel(n) == c) return n;
-    return std::nullopt;
+    return dadosDoNivel(n).codigo;
 }
 
 int valorDoDigito(char c) {
@@ -38,7 +32,7 @@ std::optional<PartidaDoHistorico> leEntrada(std::string_view e) {
         if (d < 0) return std::nullopt;
         p.dia = p.dia * kBase + d;
     }
-    const auto nivel = nivelDaLetra(e[kDigitosDoDia]);
+    const auto nivel = nivelDoCodigo(e[kDigitosDoDia]);
     const char justa = e[kDigitosDoDia + 1], resultado = e[kDigitosDoDia + 2];
     p.maosGanhas = e[kDigitosDoDia + 3] - '0';
     p.maosPerdidas = e[kDigitosDoDia + 4] - '0';
@@ -68,8 +62,9 @@ std::string escreveEntrada(const PartidaDoHistorico& p) {
 // A column's folded totals: "c" or "e" or "f", "j" or "n", then nine numbers, all split by ",".
 std::string escreveAntigas(const std::array<Estatisticas, kColunasDoHistorico>& antigas) {
     std::string t;
-    for (const TipoNivel n : kNiveis)
+    for (const DadosDoNivel& d : kNiveisDoJogo)
         for (const bool justa : {false, true}) {
+            const TipoNivel n = d.tipo;
             const Estatisticas& e = antigas[indiceDaColuna({n, justa})];
             if (e.jogadas == 0) continue;
             if (!t.empty()) t += ';';
@@ -100,7 +95,7 @@ bool leAntigas(std::string_view t, std::array<Estatisticas, kColunasDoHistorico>
         std::string_view coluna = t.substr(0, fim);
         t.remove_prefix(fim == std::string_view::npos ? t.size() : fim + 1);
         if (coluna.size() < 2) return false;
-        const auto nivel = nivelDaLetra(coluna[0]);
+        const auto nivel = nivelDoCodigo(coluna[0]);
         const bool justa = coluna[1] == 'j';
         if (!nivel || (!justa && coluna[1] != 'n')) return false;
         coluna.remove_prefix(2);
@@ -125,7 +120,7 @@ bool leAntigas(std::string_view t, std::array<Estatisticas, kColunasDoHistorico>
 } // namespace
 
 std::size_t indiceDaColuna(ColunaDoHistorico c) {
-    return static_cast<std::size_t>(c.nivel) * 2 + (c.justa ? 1 : 0);
+    return indiceDoNivel(c.nivel) * 2 + (c.justa ? 1 : 0);
 }
 
 void Estatisticas::soma(const PartidaDoHistorico& p) {

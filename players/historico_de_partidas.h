@@ -11,13 +11,12 @@
 #include <string>
 #include <string_view>
 
-#include "core/nivel.h"
 #include "core/recorde.h"
+#include "machine/niveis.h"
 
 namespace corvina {
 
 inline constexpr std::size_t kPartidasNoHistorico = 1000;
-
 
 // A match played to its end. `dia` counts days from 1 January 2000.
 struct PartidaDoHistorico {
@@ -34,7 +33,7 @@ struct ColunaDoHistorico {
     TipoNivel nivel = TipoNivel::Classico;
     bool justa = false;
 };
-inline constexpr std::size_t kColunasDoHistorico = 6;
+inline constexpr std::size_t kColunasDoHistorico = 2 * kNiveisDoJogo.size();
 std::size_t indiceDaColuna(ColunaDoHistorico c);
 
 // What the matches of a column add up to. The streaks run along the column's own matches:

@@ -5,6 +5,7 @@
 #include "core/ajustes.h"
 #include "core/lote_de_ajustes.h"
 #include "core/recorde.h"
+#include "machine/niveis.h"
 #include "players/dobra_nome.h"
 
 namespace corvina {

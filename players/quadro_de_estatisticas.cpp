@@ -26,12 +26,16 @@ bool daColuna(const PartidaDoHistorico& p, ColunaDoHistorico c) {
 } // namespace
 
 const std::array<ColunaDoQuadro, kColunasDoQuadro>& colunasDoQuadro() {
-    static const std::array<ColunaDoQuadro, kColunasDoQuadro> colunas = {{
-        {"Clássico", {TipoNivel::Classico, false}},
-        {"Clássico (justa)", {TipoNivel::Classico, true}},
-        {"Esperto", {TipoNivel::Esperto, true}},
-        {"Forte", {TipoNivel::Forte, true}},
-    }};
+    static const std::array<ColunaDoQuadro, kColunasDoQuadro> colunas = [] {
+        std::array<ColunaDoQuadro, kColunasDoQuadro> c;
+        std::size_t i = 0;
+        for (const DadosDoNivel& d : kNiveisDoJogo) {
+            if (trocaNaDistribuicao(d.tipo, false)) c[i++] = {std::string(d.nome), {d.tipo, false}};
+            c[i++] = {std::string(d.nome) + (trocaNaDistribuicao(d.tipo, false) ? " (justa)" : ""),
+                      {d.tipo, true}};
+        }
+        return c;
+    }();
     return colunas;
 }
 
@@ -93,7 +97,7 @@ std::string resumoDasCurvas(const HistoricoDePartidas& h) {
         if (curvas[i].empty()) continue;
         const int jogadas = static_cast<int>(curvas[i].size());
         const int vitorias = static_cast<int>(std::lround(curvas[i].back().fracao * jogadas));
-        t += (primeira ? "" : "; ") + std::string(colunasDoQuadro()[i].titulo) + ", " +
+        t += (primeira ? "" : "; ") + colunasDoQuadro()[i].titulo + ", " +
              porcento(curvas[i].back().fracao) + " (" + std::to_string(vitorias) + " de " +
              std::to_string(jogadas) + ")";
         primeira = false;

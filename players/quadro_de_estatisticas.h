@@ -12,11 +12,16 @@
 
 namespace corvina {
 
-inline constexpr std::size_t kColunasDoQuadro = 4;
+// A column per level, two for a level that may exchange the hands (each deal apart).
+inline constexpr std::size_t kColunasDoQuadro = [] {
+    std::size_t n = 0;
+    for (const DadosDoNivel& d : kNiveisDoJogo) n += trocaNaDistribuicao(d.tipo, false) ? 2 : 1;
+    return n;
+}();
 inline constexpr int kPartidasDaCurva = 100; // the last matches the chart follows
 
 struct ColunaDoQuadro {
-    const char* titulo;
+    std::string titulo; // "Clássico", "Clássico (justa)", "Esperto"...
     ColunaDoHistorico coluna;
 };
 const std::array<ColunaDoQuadro, kColunasDoQuadro>& colunasDoQuadro();

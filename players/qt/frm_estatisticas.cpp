@@ -19,11 +19,12 @@ constexpr int kTopoDoCabecalho = 80, kTopoDasLinhas = 102, kAlturaDaLinha = 18;
 const QRect kLugarDoGrafico(16, 300, 568, 138);
 constexpr int kMenorEixo = 10; // matches the chart's axis spans at least
 const QColor kOuro(230, 196, 110), kClaro(240, 236, 220);
-// A colour a level keeps on the chart, told apart also by the line's pattern.
-const std::array<QColor, kColunasDoQuadro> kCores = {QColor(240, 236, 220), QColor(150, 200, 255),
-                                                     QColor(120, 220, 140), QColor(250, 170, 90)};
-const std::array<Qt::PenStyle, kColunasDoQuadro> kTracos = {Qt::SolidLine, Qt::DashLine,
-                                                            Qt::DotLine, Qt::DashDotLine};
+// A colour a column keeps on the chart, told apart also by the line's pattern; more columns
+// than colours take them again with another pattern.
+const std::array<QColor, 4> kCores = {QColor(240, 236, 220), QColor(150, 200, 255),
+                                      QColor(120, 220, 140), QColor(250, 170, 90)};
+const std::array<Qt::PenStyle, 5> kTracos = {Qt::SolidLine, Qt::DashLine, Qt::DotLine,
+                                             Qt::DashDotLine, Qt::DashDotDotLine};
 
 QRect celula(int coluna, int top) {
     return {kPrimeiraColuna + kLarguraDaColuna * coluna, top, kLarguraDaColuna - 4, kAlturaDaLinha};
@@ -49,7 +50,8 @@ FrmEstatisticas::FrmEstatisticas(QWidget* dono, const Module1& modulo, Armazem& 
 
     // Centred: a title as wide as its column would touch the next one's, right-aligned.
     for (std::size_t i = 0; i < kColunasDoQuadro; ++i)
-        rotulo(("Coluna" + std::to_string(i)).c_str(), colunasDoQuadro()[i].titulo,
+        rotulo(("Coluna" + std::to_string(i)).c_str(),
+               QString::fromStdString(colunasDoQuadro()[i].titulo),
                celula(static_cast<int>(i), kTopoDoCabecalho), 11, true, kOuro, Qt::AlignCenter);
     const std::vector<LinhaDoQuadro> modelo = quadroDeEstatisticas({});
     for (std::size_t r = 0; r < modelo.size(); ++r) {
@@ -115,8 +117,8 @@ void FrmEstatisticas::mostra(const std::string& nome) {
     const auto curvas = curvasDeAproveitamento(h);
     for (std::size_t i = 0; i < kColunasDoQuadro; ++i) {
         auto* serie = new QLineSeries;
-        serie->setName(colunasDoQuadro()[i].titulo);
-        serie->setPen(QPen(kCores[i], 2, kTracos[i]));
+        serie->setName(QString::fromStdString(colunasDoQuadro()[i].titulo));
+        serie->setPen(QPen(kCores[i % kCores.size()], 2, kTracos[i % kTracos.size()]));
         serie->setPointsVisible(true); // a level met once still shows its point
         for (const PontoDaCurva& p : curvas[i]) serie->append(p.partida, 100 * p.fracao);
         grafico->addSeries(serie);

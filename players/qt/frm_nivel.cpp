@@ -19,8 +19,8 @@ FrmNivel::FrmNivel(QWidget* dono, Module1& modulo, Armazem& armazem)
     setObjectName("FrmNivel");
     setWindowTitle("Nível do adversário");
     alca(rotulo("Titulo", "", QRect(0, 0, 380, 36)));
-    for (std::size_t i = 0; i < std::size(kNiveis); ++i) {
-        const TipoNivel n = kNiveis[i];
+    for (std::size_t i = 0; i < kNiveisDoJogo.size(); ++i) {
+        const TipoNivel n = kNiveisDoJogo[i].tipo;
         const int y = kTopoDasOpcoes + kAlturaDaOpcao * static_cast<int>(i);
         const auto escolhe = [this, n] {
             escolha_.escolhe(n);
@@ -29,8 +29,8 @@ FrmNivel::FrmNivel(QWidget* dono, Module1& modulo, Armazem& armazem)
         marcas_[i] = comando(("Marca" + std::to_string(i)).c_str(), "", QRect(24, y + 6, 22, 22),
                              escolhe, 16);
         comando(("Nivel" + std::to_string(i)).c_str(),
-                QString::fromStdString(std::string(nomeDoNivel(n))), QRect(50, y + 5, 300, 19),
-                escolhe, 13);
+                QString::fromStdString(std::string(kNiveisDoJogo[i].nome)),
+                QRect(50, y + 5, 300, 19), escolhe, 13);
         rotulo(("Descricao" + std::to_string(i)).c_str(),
                QString::fromStdString(descricaoDoNivel(n)), QRect(50, y + 26, 308, 18), 11);
     }
@@ -56,7 +56,7 @@ FrmNivel::FrmNivel(QWidget* dono, Module1& modulo, Armazem& armazem)
 
 void FrmNivel::mostra() {
     for (std::size_t i = 0; i < marcas_.size(); ++i)
-        marcas_[i]->setText(kNiveis[i] == escolha_.nivel() ? "●" : "○");
+        marcas_[i]->setText(kNiveisDoJogo[i].tipo == escolha_.nivel() ? "●" : "○");
     justa_->setChecked(escolha_.justa());
     justa_->setEnabled(escolha_.justaEscolhivel());
 }
@@ -89,7 +89,7 @@ bool FrmNivel::tecla(int key) {
         return true;
     } else
         return false;
-    escolha_.escolhe(kNiveis[i]);
+    escolha_.escolhe(kNiveisDoJogo[i].tipo);
     mostra();
     return true;
 }

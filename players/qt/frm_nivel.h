@@ -22,7 +22,7 @@ class FrmNivel : public JanelaDeFigura {
   private:
     void mostra();
     EscolhaDeNivel escolha_;
-    std::array<QLabel*, 3> marcas_{};
+    std::array<QLabel*, kNiveisDoJogo.size()> marcas_{};
     QCheckBox* justa_ = nullptr;
 };
 

@@ -144,15 +144,9 @@ TEST(NivelDaMesa, PlaysTheLevelChosenAtEachDecision) {
     Module1 m;
     NivelDaMesa seat;
     seat.segue(m);
-    Classico c;
-    Esperto e;
-    Forte f;
-    for (const TipoNivel n : kNiveis) {
-        m.nivel = n;
-        Nivel& sozinho = n == TipoNivel::Classico  ? static_cast<Nivel&>(c)
-                         : n == TipoNivel::Esperto ? static_cast<Nivel&>(e)
-                                                   : static_cast<Nivel&>(f);
-        EXPECT_EQ(seat.descarte(v, false), sozinho.descarte(v, false)) << chaveDoNivel(n);
+    for (const DadosDoNivel& d : kNiveisDoJogo) {
+        m.nivel = d.tipo;
+        EXPECT_EQ(seat.descarte(v, false), d.cria()->descarte(v, false)) << d.chave;
     }
     EXPECT_EQ(seat.descarte(v, false), 10) << "Forte throws the ace of hearts, which helps nothing";
 }
@@ -167,8 +161,8 @@ TEST(Arena, EqualLevelsSplitMirroredDealsExactly) {
         p.pares = 40;
         const ResultadoArena r = arena(p);
         EXPECT_EQ(r.pares, 40);
-        EXPECT_EQ(r.maosA, r.maosB) << chaveDoNivel(n);
-        EXPECT_EQ(r.partidasA, r.partidasB) << chaveDoNivel(n);
+        EXPECT_EQ(r.maosA, r.maosB) << dadosDoNivel(n).chave;
+        EXPECT_EQ(r.partidasA, r.partidasB) << dadosDoNivel(n).chave;
         EXPECT_EQ(r.maosA + r.maosB + r.semVencedor, 80);
         EXPECT_DOUBLE_EQ(r.shareA, 0.5);
         // Every pair splits: over pairs there is no doubt left at all.

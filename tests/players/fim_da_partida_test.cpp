@@ -126,7 +126,8 @@ TEST_F(FimDaPartidaTest, AFullDiskIsToldOnceAndLosesNothing) {
 TEST_F(FimDaPartidaTest, HistoriesInAnOldStoreMoveIntoTheDatabase) {
     HistoricoDePartidas cheio;
     for (std::size_t i = 0; i < kPartidasNoHistorico + 200; ++i)
-        cheio.registra({static_cast<int>(i), kNiveis[i % 3], i % 2 == 0, i % 3 != 0, 4, 3});
+        cheio.registra(
+            {static_cast<int>(i), kNiveisDoJogo[i % 3].tipo, i % 2 == 0, i % 3 != 0, 4, 3});
     const TextoDoHistorico t = escreveHistorico(cheio);
     {
         ArquivoDeAjustes a(ini);

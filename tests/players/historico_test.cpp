@@ -81,8 +81,8 @@ TEST(HistoricoDePartidas, FoldingTheOldMatchesKeepsEveryFigure) {
     std::array<Estatisticas, kColunasDoHistorico> contadas{};
     for (int i = 0; i < 3500; ++i) {
         const PartidaDoHistorico p{
-            i / 3,           kNiveis[sorte() % 3],          sorte() % 2 == 0,
-            sorte() % 5 < 3, static_cast<int>(sorte() % 5), static_cast<int>(sorte() % 5)};
+            i / 3,           kNiveisDoJogo[sorte() % 3].tipo, sorte() % 2 == 0,
+            sorte() % 5 < 3, static_cast<int>(sorte() % 5),   static_cast<int>(sorte() % 5)};
         h.registra(p);
         contadas[indiceDaColuna({p.nivel, p.justa || p.nivel != TipoNivel::Classico})].soma(p);
         if (i % 500 != 499) continue;
@@ -91,11 +91,16 @@ TEST(HistoricoDePartidas, FoldingTheOldMatchesKeepsEveryFigure) {
         ASSERT_TRUE(lido) << "after " << i + 1;
         EXPECT_EQ(*lido, h);
         EXPECT_LE(lido->partidas.size(), kPartidasNoHistorico);
-        for (const TipoNivel n : kNiveis)
+        for (const DadosDoNivel& d : kNiveisDoJogo)
             for (const bool justa : {false, true})
-                EXPECT_EQ(lido->estatisticas({n, justa}), contadas[indiceDaColuna({n, justa})])
+                EXPECT_EQ(lido->estatisticas({d.tipo, justa}),
+                          contadas[indiceDaColuna({d.tipo, justa})])
                     << "after " << i + 1;
     }
+    // The codes stored for ever: a history of an earlier version reads as it was written.
+    const auto antiga = leHistorico("000cnv41000ejd14000fnv40", "ej,2,1,1,5,6,-1,1,1,9");
+    ASSERT_TRUE(antiga);
+    EXPECT_EQ(antiga->estatisticas({TipoNivel::Esperto, true}).jogadas, 3);
 }
 
 // Hostile or damaged histories, met in the database or in a store of an earlier version: kept
