@@ -1,5 +1,6 @@
 #include "core/novojogo.h"
 
+#include "core/compra.h"
 #include "core/contagem.h"
 #include "core/distribue.h"
 #include "core/finaliza.h"
@@ -48,6 +49,7 @@ void novojogo(Jogo& jogo) {
     v.copiaFigura(peca::kDiscartado2, peca::kVazio);
     jogo.modulo.qtdDescarte = 0;
     jogo.historico.limpa();
+    voltaOrdenarAuto(jogo); // an order pressed in the last hand means nothing in this one
     distribue(jogo);
     v.apresentacartasdojog(1, jogo.mesa.qtdJog);
     v.apresentacartasdamac(1, 0);

@@ -283,7 +283,10 @@ void JanelaMesa::mouseReleaseEvent(QMouseEvent* e) {
 }
 
 bool JanelaMesa::livreParaJanelas() {
-    if (!condutor_.ocupado() && !jogo_.maosEmJogo) return true;
+    if (!condutor_.ocupado()) {
+        condutor_.largaArraste(); // a card held by the mouse goes back before a window opens
+        return true;
+    }
     if (jogo_.modulo.tocarSom) vista_.tocaSom(som::kNegado, false);
     return false;
 }

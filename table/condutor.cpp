@@ -15,7 +15,7 @@ namespace corvina {
 
 Recusa Condutor::verifica(const Jogada& c) const {
     const Mesa& m = jogo_.mesa;
-    if (ocupado() || m.animando || jogo_.maosEmJogo) return Recusa::Ocupada;
+    if (ocupado()) return Recusa::Ocupada;
     const Cena& cena = vista_.cena();
     // A part takes a command where it would take a click: shown and switched on.
     const auto clicavel = [&](Peca p) { return cena[p].Visible && cena[p].Enabled; };
@@ -45,7 +45,7 @@ Recusa Condutor::verifica(const Jogada& c) const {
 
 Recusa Condutor::executa(const Jogada& c) {
     // A new move ends a drag in the middle: the card goes back to its hole first.
-    if (c.acao != Acao::Soltar && !ocupado()) largaArraste();
+    if (c.acao != Acao::Soltar && !emJogada()) largaArraste();
     const Recusa r = verifica(c);
     if (r == Recusa::SemArraste) return r; // a release after a refused press: nothing to say
     if (r != Recusa::Nenhuma) {
@@ -118,15 +118,24 @@ void Condutor::move(int16 de, int16 para) {
         poeCarta(m.jogValor, m.jogNaipe, j, cartaNa(m.jogValor, m.jogNaipe, j + passo));
     poeCarta(m.jogValor, m.jogNaipe, para, levada);
     vista_.apresentacartasdojog(std::min(de, para), std::max(de, para));
+    // The focus, the mouse's card and the raise stay on the cards they were on, wherever the
+    // shift of the row takes them.
+    const auto segue = [de, para](int16 casa) -> int16 {
+        if (casa == de) return para;
+        if (de < para && casa > de && casa <= para) return casa - 1;
+        if (para < de && casa >= para && casa < de) return casa + 1;
+        return casa;
+    };
     int16& foco = vista_.cena().foco;
-    if (foco == de) foco = para; // the focus goes with the card, and so does its raise
-    if (m.cartaAtual == de) m.cartaAtual = para;
-    if (m.destacada == de && jogo_.modulo.animarCartas) vista_.destaca(para);
+    foco = segue(foco);
+    m.cartaAtual = segue(m.cartaAtual);
+    if (m.destacada >= 1 && m.destacada <= m.qtdJog && jogo_.modulo.animarCartas)
+        vista_.destaca(segue(m.destacada));
     assentaAtencao(jogo_, vista_);
 }
 
 Recusa Condutor::pega(float x, float y) {
-    if (ocupado() || jogo_.mesa.animando || jogo_.maosEmJogo) {
+    if (ocupado()) {
         recusa();
         return Recusa::Ocupada;
     }
@@ -165,7 +174,7 @@ void Condutor::assenta() {
 
 Recusa Condutor::pedeDica() {
     const Mesa& m = jogo_.mesa;
-    if (ocupado() || m.animando || jogo_.maosEmJogo) {
+    if (ocupado()) {
         recusa();
         return Recusa::Ocupada;
     }
@@ -190,8 +199,7 @@ Tarefa<> Condutor::calculaDica() {
 }
 
 std::optional<Dica> Condutor::dica() const {
-    if (!dica_ || ocupado() || jogo_.maosEmJogo || assinatura() != assinaturaDaDica_)
-        return std::nullopt;
+    if (!dica_ || ocupado() || assinatura() != assinaturaDaDica_) return std::nullopt;
     return dica_;
 }
 

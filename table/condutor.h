@@ -20,8 +20,10 @@ class Condutor {
   public:
     Condutor(Jogo& jogo, VistaDeCena& vista) : jogo_(jogo), vista_(vista) {}
 
-    // A move under way: its flights, or the machine's turn after it.
-    bool ocupado() const { return entrando_ || (emCurso_ && !emCurso_->terminou()); }
+    // Whether the table takes nothing now, the one answer for every input and window key: a
+    // move under way (its flights, or the machine's turn after it), a card in the air, or the
+    // machine's hand at play.
+    bool ocupado() const { return emJogada() || jogo_.mesa.animando || jogo_.maosEmJogo; }
     // The mouse holds a card.
     bool arrastando() const { return jogo_.mesa.arrastando == 1; }
 
@@ -34,7 +36,8 @@ class Condutor {
     void arrasta(float x, float y);
     // The mouse over the player's card in slot `casa`: the moving sprite is laid on it.
     void sobre(int16 casa);
-    // A drag left in the middle (a key, the window losing the mouse): the card back in its hole.
+    // A drag left in the middle (a move by a key, a window opened over the table): the card back
+    // in its hole.
     void largaArraste();
 
     // Lays the player's attention out from the table's state, unless a move owns the table.
@@ -51,6 +54,7 @@ class Condutor {
     std::function<void()> aoMudar;
 
   private:
+    bool emJogada() const { return entrando_ || (emCurso_ && !emCurso_->terminou()); }
     Tarefa<> conduz(Jogada c);
     Tarefa<> descartaDaFila(int16 casa);
     Tarefa<> calculaDica();

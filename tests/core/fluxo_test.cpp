@@ -287,12 +287,15 @@ TEST(NovoJogo, DealtThreeTrincasWinAtOnceAndOnlyForThePlayer) {
     EXPECT_EQ(vista.chamadasDe("mostraContagens").size(), 2u) << "a second hand was dealt";
 }
 
-TEST(NovoJogo, ClearsHintAndPileButNotTheScore) {
+TEST(NovoJogo, ClearsHintPileAndSortOrderButNotTheScore) {
     JogoDeTeste t;
     t.jogo.mesa.macete = true;
     t.jogo.modulo.qtdDescarte = 6;
     t.jogo.modulo.pontosJog = 2;
+    t.jogo.mesa.ordemAuto = 1; // the sort button pressed before this deal
     novojogo(t.jogo);
+    EXPECT_EQ(t.jogo.mesa.ordemAuto, 0);
+    EXPECT_TRUE(t.chamou("legendaOrdenar Auto"));
     EXPECT_FALSE(t.jogo.mesa.macete);
     EXPECT_EQ(t.jogo.modulo.qtdDescarte, 0);
     EXPECT_EQ(t.jogo.modulo.pontosJog, 2);

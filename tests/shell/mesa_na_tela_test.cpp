@@ -42,6 +42,20 @@ TEST(MesaNaTela, TheKeysWalkTheRowAndCarryTheCardInFocus) {
     t.tecla(Qt::Key_Right, Qt::ShiftModifier);
     EXPECT_LT(t.vista.cena()[peca::cj(2)].Top, m.yMao);
     EXPECT_EQ(t.vista.cena()[peca::cj(1)].Top, m.yMao);
+
+    // A screen reader moves the card beside it over it: the focus and the raise stay on the
+    // card they were on, which Enter then throws.
+    const Carta emFoco = cartaNa(m.jogValor, m.jogNaipe, 2);
+    QAccessible::queryAccessibleInterface(&t.janela)->child(0)->actionInterface()->doAction(
+        "mover para a direita");
+    EXPECT_EQ(t.vista.cena().foco, 1);
+    EXPECT_LT(t.vista.cena()[peca::cj(1)].Top, m.yMao);
+    EXPECT_EQ(t.vista.cena()[peca::cj(2)].Top, m.yMao);
+    t.tecla(Qt::Key_Return);
+    for (int i = 0; i < 500 && t.jogo.historico.descartes.empty(); ++i)
+        QApplication::processEvents(QEventLoop::AllEvents, 1);
+    ASSERT_FALSE(t.jogo.historico.descartes.empty());
+    EXPECT_EQ(t.jogo.historico.descartes.front(), emFoco);
 }
 
 // A whole match by one way in alone, following the hint as its player takes it in: by the keys
@@ -261,7 +275,14 @@ TEST(MesaNaTela, ANewMatchWithTenCardsInHandDealsNineAgain) {
     t.jogo.modulo.pontosMac = 2;
     t.clica(t.janela.retanguloDa(peca::kCostas2).center());
     ASSERT_EQ(t.jogo.mesa.qtdJog, 10);
+    // F3 with a card held by the mouse: the card goes back first, and the new hand has no drag.
+    const QPoint sobre = t.janela.retanguloDa(peca::cj(1)).center();
+    t.move(sobre);
+    t.envia(QEvent::MouseButtonPress, sobre, Qt::LeftButton, Qt::LeftButton);
+    t.move(sobre + QPoint(40, 0), Qt::LeftButton);
+    ASSERT_EQ(t.jogo.mesa.arrastando, 1);
     t.tecla(Qt::Key_F3);
+    EXPECT_EQ(t.jogo.mesa.arrastando, 0);
     EXPECT_EQ(t.jogo.mesa.qtdJog, 9);
     EXPECT_EQ(t.jogo.modulo.pontosMac, 0);
     EXPECT_FALSE(t.vista.cena()[peca::cj(10)].Visible) << "no tenth card left on the table";
