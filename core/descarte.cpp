@@ -57,9 +57,7 @@ Tarefa<Descarte> descartaJog(Jogo& jogo, int16 posicao) {
 
     v.Habilita(false);
     voltaOrdenarAuto(jogo);
-    jogo.modulo.soTrincas = true;
-    const int16 antesDescarte = TemQuantosGrupos(m, Lado::Jog, jogo.modulo.soTrincas);
-    jogo.modulo.soTrincas = false;
+    const int16 antesDescarte = TemQuantosGrupos(m, Lado::Jog, true); // trincas alone
     if (jogo.modulo.tocarSom) v.tocaSom(som::kCarta1Descarte, false);
     co_await voaParaPilha(jogo);
     m.discarteValor = m.jogValor[posicao];

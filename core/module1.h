@@ -15,8 +15,6 @@ struct Module1 {
     std::string nomeJogador;
     int16 assistido = 0;
     bool nomeCancelado = false;
-    bool respostaSimNao = false;
-    bool soTrincas = false;
     int16 qtdDescarte = 0;
     int16 tipoCarta = 0;
     int16 velocidade = 0;

@@ -12,29 +12,24 @@ namespace corvina {
 namespace {
 inline constexpr int kUltimaCartaDoMonte = 1;
 
-// The seat decides on a copy of what it may see, so that a view may let it think elsewhere; the
-// flag says that its tries are short counts while it does. (The thoughts are named before they
-// are awaited: GCC 12 destroys a lambda made inside a co_await twice.)
+// The seat decides on a copy of what it may see, so that a view may let it think elsewhere. (The
+// thoughts are named before they are awaited: GCC 12 destroys a lambda made inside a co_await
+// twice.)
 Tarefa<bool> pegaOuCompra(Jogo& jogo) {
     Nivel& nivel = jogo.nivel;
-    jogo.modulo.soTrincas = true;
     Pensamento<bool> pensamento(jogo.vista, [&nivel, visao = visaoDe(jogo, Lado::Mac)] {
         return nivel.pegaDescarte(visao);
     });
-    const bool pega = co_await pensamento;
-    jogo.modulo.soTrincas = false;
-    co_return pega;
+    co_return co_await pensamento;
 }
 
 Tarefa<int16> escolheDescarte(Jogo& jogo, bool doDescarte) {
     Nivel& nivel = jogo.nivel;
-    jogo.modulo.soTrincas = true;
     Pensamento<int16> pensamento(jogo.vista,
                                  [&nivel, visao = visaoDe(jogo, Lado::Mac), doDescarte] {
                                      return nivel.descarte(visao, doDescarte);
                                  });
     const int16 carta = co_await pensamento;
-    jogo.modulo.soTrincas = false;
     // A slot outside the hand throws the card that came in, so the turn always ends.
     co_return carta >= 1 && carta <= kCasaCompra ? carta : kCasaCompra;
 }

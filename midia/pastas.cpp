@@ -7,7 +7,7 @@
 
 #include "core/ajustes.h"
 #include "core/caminhos.h"
-#include "midia/arquivos/pasta_privada.h"
+#include "arquivos/pasta_privada.h"
 
 namespace corvina {
 

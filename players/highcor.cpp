@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "core/ajustes.h"
-#include "midia/arquivos/arquivo_regular.h"
+#include "arquivos/arquivo_regular.h"
 
 namespace corvina {
 

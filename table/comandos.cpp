@@ -18,10 +18,8 @@ void Form_Load(Jogo& jogo) {
     jogo.mesa.mostraContagem = false;
     jogo.mesa.yMao = static_cast<int16>(v.lugar(peca::cj(1)).top);
     jogo.mesa.destacada = kNenhumaDestacada;
-    leConfig(jogo);
-    // A stored back outside 1..8 has no picture: the stock keeps the one it had.
-    if (jogo.modulo.tipoCarta >= 1 && jogo.modulo.tipoCarta <= kVersos)
-        v.copiaFigura(peca::kCostas, {Parte::tipotC, jogo.modulo.tipoCarta});
+    leConfig(jogo); // the back comes out of it within 1..8
+    v.copiaFigura(peca::kCostas, {Parte::tipotC, jogo.modulo.tipoCarta});
     for (int i = 0; i < 5; ++i) {
         v.copiaFigura(peca::picture3(i), peca::kCostas);
         v.aplicaContorno(peca::picture3(i), kCorDaMesa);
@@ -31,9 +29,7 @@ void Form_Load(Jogo& jogo) {
 
 void aplicaCostas(Jogo& jogo) {
     VistaMesa& v = jogo.vista;
-    // A back that doesn't exist has no picture: costas keeps the one it had.
-    if (jogo.modulo.tipoCarta >= 1 && jogo.modulo.tipoCarta <= kVersos)
-        v.copiaFigura(peca::kCostas, {Parte::tipotC, jogo.modulo.tipoCarta});
+    v.copiaFigura(peca::kCostas, {Parte::tipotC, jogo.modulo.tipoCarta});
     v.apresentacartasdamac(1, 0);
     v.copiaFigura(peca::kCostas2, peca::kCostas);
     v.aplicaContorno(peca::kCostas2, kCorDaMesa);

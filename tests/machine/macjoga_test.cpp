@@ -38,7 +38,6 @@ TEST_P(VezDaMaquinaTest, TakesAndThrowsByTheCount) {
     EXPECT_EQ(textoDaMao(t.jogo.mesa, Lado::Mac), c.maoDepois);
     EXPECT_EQ(t.topo(), c.topoDepois);
     EXPECT_EQ(t.jogo.mesa.qtdMac, 9);
-    EXPECT_FALSE(t.jogo.modulo.soTrincas);
     EXPECT_EQ(t.vista.chamadas.back(), "mostraPrompt Pegue uma carta no baralho ou no descarte");
 }
 

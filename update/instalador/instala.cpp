@@ -11,7 +11,7 @@
 #include <cstdlib>
 #include <limits>
 
-#include "midia/arquivos/pasta_privada.h"
+#include "arquivos/pasta_privada.h"
 #include "update/assinatura.h"
 #include "update/instalador/caminho_seguro.h"
 

@@ -11,7 +11,7 @@
 #include <QTimer>
 #include <limits>
 
-#include "midia/arquivos/arquivo_regular.h"
+#include "arquivos/arquivo_regular.h"
 #include "midia/pastas.h"
 #include "update/resposta.h"
 

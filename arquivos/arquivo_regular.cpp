@@ -1,4 +1,4 @@
-#include "midia/arquivos/arquivo_regular.h"
+#include "arquivos/arquivo_regular.h"
 
 #include <cerrno>
 #include <fcntl.h>

@@ -4,7 +4,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "midia/arquivos/pasta_privada.h"
+#include "arquivos/pasta_privada.h"
 
 namespace corvina {
 namespace {

@@ -1,4 +1,4 @@
-#include "midia/arquivos/pasta_privada.h"
+#include "arquivos/pasta_privada.h"
 
 #include <sys/stat.h>
 #include <unistd.h>
