@@ -6,21 +6,17 @@
 
 #include <QApplication>
 #include <QLabel>
-#include <QTemporaryDir>
 #include <QTest>
 #include <functional>
 #include <string>
 #include <vector>
 
 #include "apoio/janela_modal.h"
+#include "apoio/mesa_na_tela.h"
 #include "apoio/som_gravado.h"
-#include "core/ajustes.h"
 #include "core/ativacao.h"
 #include "machine/classico.h"
 #include "midia/audio/som.h"
-#include "midia/imagens.h"
-#include "players/qt/settings.h"
-#include "shell/janela_mesa.h"
 #include "shell/janelas_qt.h"
 #include "update/versao.h"
 
@@ -42,12 +38,7 @@ inline void clica(QWidget* janela, const char* nome) {
     QTest::mouseClick(parte(janela, nome), Qt::LeftButton);
 }
 
-struct Mesa : testing::Test {
-    QTemporaryDir pasta;
-    Settings settings{pasta.filePath("Corvina.ini")};
-    Imagens imagens{pastaDeImagens()};
-    BancoDoJogo banco{":memory:"};
-    VistaQt vista{settings, banco};
+struct Mesa : testing::Test, BaseDaMesa {
     OndasGravadas ondas;
     MidiGravado midi;
     std::string sons = pastaDosSons().toStdString();
@@ -62,9 +53,7 @@ struct Mesa : testing::Test {
         vista.liga(jogo);
         vista.som(&som);
         vista.janelas(&janelas);
-        vista.modoDeTeste(true);
         janelas.dono(&janela);
-        settings.grava(chaveBase(), ajuste::kPrimeiraVez, "1");
         teste::janelasEsperadas().clear();
     }
     ~Mesa() override {

@@ -17,12 +17,21 @@
 
 namespace corvina {
 
-struct MesaNaTela {
+// What every test of the real table stands on: a store and a database of its own, the pictures,
+// and the view on the screen in its test mode, past the first run's options.
+struct BaseDaMesa {
     QTemporaryDir pasta;
-    Settings settings{pasta.filePath("Corvina.conf")};
+    Settings settings{pasta.filePath("Corvina.ini")};
     Imagens imagens{pastaDeImagens()};
     BancoDoJogo banco{":memory:"};
     VistaQt vista{settings, banco};
+    BaseDaMesa() {
+        vista.modoDeTeste(true);
+        settings.grava(chaveBase(), ajuste::kPrimeiraVez, "1");
+    }
+};
+
+struct MesaNaTela : BaseDaMesa {
     AcasoSemente acaso;
     NivelDaMesa nivel;
     Jogo jogo;
@@ -35,7 +44,6 @@ struct MesaNaTela {
         : acaso(semente), jogo(vista, acaso, outro ? *outro : static_cast<Nivel&>(nivel)) {
         nivel.segue(jogo.modulo);
         vista.liga(jogo);
-        vista.modoDeTeste(true);
         if (pausaDoVoo > 0) vista.pausasDeTeste(pausaDoVoo);
         // The choice of player as the last one; the other windows close at once.
         vista.aoAbrirJanela = [this](Janela j) {
@@ -43,7 +51,6 @@ struct MesaNaTela {
             if (j == Janela::FrmNome)
                 jogo.modulo.nomeJogador = settings.le(chaveBase(), ajuste::kUltimoJogador, "");
         };
-        settings.grava(chaveBase(), ajuste::kPrimeiraVez, "1");
         settings.grava(chaveBase(), ajuste::kUltimoJogador, "Teste");
         Form_Load(jogo);
         janela.show();

@@ -41,16 +41,21 @@ TEST(CompraDoBaralho, TakesTheHighEndOfTheStockToSlotTen) {
     EXPECT_FALSE(t.jogo.mesa.animando);
 }
 
-TEST(CompraDoBaralho, SecondDrawIsRefusedAndChangesNothing) {
-    JogoDeTeste t;
-    t.arma(std::string(kJog) + " 13/1", kMac, "9/4", "1/3 2/3");
-    t.jogo.modulo.tocarSom = true;
-    ateOFim(costas2_Click(t.jogo));
-    EXPECT_TRUE(t.chamou(kRecusa));
-    EXPECT_EQ(t.jogo.mesa.qtdBaralho, 2);
-    EXPECT_EQ(t.jogo.mesa.qtdJog, 10);
-    EXPECT_TRUE(t.vista.chamadasDe("tocaSom").empty());
-    EXPECT_EQ(t.vista.chamadas.back(), "habilitaPeca costas2 1");
+// With ten cards in hand a second take, from either place, is refused and changes nothing.
+TEST(Compra, ASecondTakeIsRefusedAndChangesNothing) {
+    for (const bool doDescarte : {false, true}) {
+        JogoDeTeste t;
+        t.arma(std::string(kJog) + " 13/1", kMac, "9/4", "1/3 2/3");
+        t.jogo.modulo.tocarSom = true;
+        ateOFim(doDescarte ? Discartado_Click(t.jogo) : costas2_Click(t.jogo));
+        EXPECT_TRUE(t.chamou(kRecusa)) << doDescarte;
+        EXPECT_EQ(t.jogo.mesa.qtdBaralho, 2);
+        EXPECT_EQ(t.jogo.mesa.qtdJog, 10);
+        EXPECT_EQ(t.jogo.modulo.qtdDescarte, 1);
+        EXPECT_TRUE(t.vista.chamadasDe("tocaSom").empty());
+        EXPECT_EQ(t.vista.chamadas.back(),
+                  doDescarte ? "habilitaPeca Discartado 1" : "habilitaPeca costas2 1");
+    }
 }
 
 TEST(CompraDoBaralho, EmptyStockSoundsThenEndsTheHandWithNoPoint) {
@@ -88,15 +93,6 @@ TEST(CompraDoDescarte, TakesTheTopAndCapsThePileAtFour) {
     EXPECT_EQ(t.jogo.mesa.qtdBaralho, 1);
     EXPECT_TRUE(t.chamou("voaCarta discartado2 1.5"));
     EXPECT_LT(t.ordem("MostraDiscarts"), t.ordem("voaCarta discartado2 1.5"));
-}
-
-TEST(CompraDoDescarte, WithTenCardsIsRefused) {
-    JogoDeTeste t;
-    t.arma(std::string(kJog) + " 13/1", kMac, "9/4", "1/3");
-    ateOFim(Discartado_Click(t.jogo));
-    EXPECT_TRUE(t.chamou(kRecusa));
-    EXPECT_EQ(t.jogo.modulo.qtdDescarte, 1);
-    EXPECT_EQ(t.vista.chamadas.back(), "habilitaPeca Discartado 1");
 }
 
 TEST(Descarte, RefusedWithoutTenCardsOrOutsideTheHand) {
@@ -262,14 +258,6 @@ TEST(Finaliza, MatchWonAndLostWriteTheRecord) {
     EXPECT_EQ(t.vista.armazem.le(chave, "Vitorias", ""), "8");
     EXPECT_EQ(t.vista.armazem.le(chave, "Saldo", ""), "0");
     EXPECT_EQ(t.vista.armazem.le(chave, "Derrotas", ""), "1");
-}
-
-TEST(Finaliza, LaysOutAndShowsTheMachinesHand) {
-    JogoDeTeste t;
-    t.arma(kJog, "13/4 1/4 7/3 6/2 12/4 5/2 7/2 4/2 7/1");
-    finaliza(t.jogo, Lado::Jog);
-    EXPECT_EQ(textoDaMao(t.jogo.mesa, Lado::Mac), "4/2 5/2 6/2 7/2 7/3 7/1 1/4 12/4 13/4");
-    EXPECT_EQ(textoDaMao(t.jogo.mesa, Lado::Jog), kJog);
 }
 
 TEST(NovoJogo, DealtThreeTrincasWinAtOnceAndOnlyForThePlayer) {

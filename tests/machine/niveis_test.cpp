@@ -171,12 +171,18 @@ TEST(Arena, EqualLevelsSplitMirroredDealsExactly) {
     }
 }
 
-TEST(Arena, RangesAndThreadsAddUpToTheWholeRun) {
+// Esperto against Clássico, `pares` mirrored pairs of seed 11.
+PedidoArena espertoContraClassico(long pares) {
     PedidoArena p;
     p.a = TipoNivel::Esperto;
     p.b = TipoNivel::Classico;
     p.semente = 11;
-    p.pares = 30;
+    p.pares = pares;
+    return p;
+}
+
+TEST(Arena, RangesAndThreadsAddUpToTheWholeRun) {
+    PedidoArena p = espertoContraClassico(30);
     const ResultadoArena todo = arena(p);
     p.threads = 2;
     const ResultadoArena emDois = arena(p);
@@ -197,11 +203,7 @@ TEST(Arena, RangesAndThreadsAddUpToTheWholeRun) {
 // With a limit on processes that lets no thread start (as `prlimit --nproc` sets it), the arena
 // plays every pair on the thread it was called from, with the same figures.
 TEST(Arena, ThreadsThatCantStartLeaveTheWorkToTheCaller) {
-    PedidoArena p;
-    p.a = TipoNivel::Esperto;
-    p.b = TipoNivel::Classico;
-    p.semente = 11;
-    p.pares = 6;
+    PedidoArena p = espertoContraClassico(6);
     const ResultadoArena sozinha = arena(p);
     const pid_t filho = ::fork();
     if (filho == 0) {
@@ -220,10 +222,7 @@ TEST(Arena, ThreadsThatCantStartLeaveTheWorkToTheCaller) {
 }
 
 TEST(Arena, AnInterruptAnswersForThePairsPlayed) {
-    PedidoArena p;
-    p.a = TipoNivel::Esperto;
-    p.b = TipoNivel::Classico;
-    p.pares = 50;
+    const PedidoArena p = espertoContraClassico(50);
     std::atomic<bool> parar{false};
     const ResultadoArena r = arena(p, &parar, [&](long feitos, long) {
         if (feitos == 3) parar = true;
