@@ -1,5 +1,5 @@
-// The drag's rules: where a drop lands, the shift of the row, the panel's edges, the flight's
-// steps and the pile's fan. The mover over a card, a drop that discards and a move during a
+// The drag's rules: where a drop lands, the shift of the row, the flight's steps and the pile's
+// fan. The mover over a card, a drop that discards and a move during a
 // flight are checked under mixed input on the real window (shell/mistura_test.cpp).
 
 #include <gtest/gtest.h>
@@ -75,18 +75,6 @@ TEST(Arraste, AboveTheBandTheRowRests) {
     EXPECT_EQ(t.jogo.mesa.cartaAtual, 2);
 }
 
-TEST(Arraste, TheMoverStaysOnThePanel) {
-    MesaDeCena t;
-    t.arma(kNove, kMac);
-    pega(t, 1);
-    arrasta(t, -20000, -20000);
-    EXPECT_EQ(t.sprite(kMover).Left, 0);
-    EXPECT_EQ(t.sprite(kMover).Top, 0);
-    arrasta(t, 40000, 40000);
-    EXPECT_EQ(t.sprite(kMover).Left, 10230);
-    EXPECT_EQ(t.sprite(kMover).Top, 4965);
-}
-
 TEST(Arraste, WithNineCardsADropAboveIsRefusedWithTheWarning) {
     MesaDeCena t;
     t.arma(kNove, kMac);
@@ -121,28 +109,6 @@ TEST(Voo, StepsFollowTheSpeedAndRoundDown) {
     t.jogo.modulo.velocidade = 0;
     ateOFim(t.vista.voaCarta({Parte::discartado2}, 0, 0, 1.5));
     EXPECT_EQ(t.vista.esperas, 1) << "no speed, no steps, and no division by zero";
-}
-
-TEST(Pilha, TheFanFollowsThePileCount) {
-    MesaDeCena t;
-    t.arma(kNove, kMac);
-    struct Caso {
-        int16 n;
-        int mostrados;
-        float left, top;
-    };
-    for (const Caso c : {Caso{0, 0, 5400, 2400}, Caso{1, 1, 5430, 2430}, Caso{4, 4, 5520, 2520},
-                         Caso{7, 5, 5520, 2520}}) {
-        t.jogo.modulo.qtdDescarte = c.n;
-        t.vista.MostraDiscarts();
-        int mostrados = 0;
-        for (int i = 0; i < 5; ++i)
-            mostrados += t.sprite({Parte::Picture8, static_cast<int16>(i)}).Visible;
-        EXPECT_EQ(mostrados, c.mostrados) << c.n;
-        EXPECT_FALSE(t.sprite({Parte::Discartado}).Visible);
-        EXPECT_EQ(t.sprite({Parte::Discartado}).Left, c.left) << c.n;
-        EXPECT_EQ(t.sprite({Parte::Discartado}).Top, c.top) << c.n;
-    }
 }
 
 TEST(Pilha, TheFanTakesEachNewTopAndThePictureThatLayUnderIt) {
