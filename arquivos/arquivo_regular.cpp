@@ -5,26 +5,19 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace corvina {
+#include "arquivos/descritor.h"
 
-namespace {
-struct Descritor {
-    int fd;
-    ~Descritor() {
-        if (fd >= 0) ::close(fd);
-    }
-};
-} // namespace
+namespace corvina {
 
 ArquivoLido leArquivoRegular(const std::string& caminho, std::size_t limite) {
     ArquivoLido lido;
     const Descritor d{::open(caminho.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY)};
-    if (d.fd < 0) {
+    if (d.fd() < 0) {
         lido.situacao = errno == ENOENT ? SituacaoDoArquivo::Ausente : SituacaoDoArquivo::Ilegivel;
         return lido;
     }
     struct stat st {};
-    if (::fstat(d.fd, &st) != 0) {
+    if (::fstat(d.fd(), &st) != 0) {
         lido.situacao = SituacaoDoArquivo::Ilegivel;
         return lido;
     }
@@ -38,7 +31,7 @@ ArquivoLido leArquivoRegular(const std::string& caminho, std::size_t limite) {
     }
     char buf[4096];
     for (;;) {
-        const ssize_t n = ::read(d.fd, buf, sizeof buf);
+        const ssize_t n = ::read(d.fd(), buf, sizeof buf);
         if (n < 0 && errno == EINTR) continue;
         if (n < 0) {
             lido.situacao = SituacaoDoArquivo::Ilegivel;
@@ -60,11 +53,12 @@ ArquivoLido leArquivoRegular(const std::string& caminho, std::size_t limite) {
 bool gravaArquivoRegular(const std::string& caminho, const std::string& conteudo) {
     const Descritor d{
         ::open(caminho.c_str(), O_WRONLY | O_CREAT | O_NONBLOCK | O_CLOEXEC | O_NOCTTY, 0644)};
-    if (d.fd < 0) return false;
+    if (d.fd() < 0) return false;
     struct stat st {};
-    if (::fstat(d.fd, &st) != 0 || !S_ISREG(st.st_mode) || ::ftruncate(d.fd, 0) != 0) return false;
+    if (::fstat(d.fd(), &st) != 0 || !S_ISREG(st.st_mode) || ::ftruncate(d.fd(), 0) != 0)
+        return false;
     for (std::size_t feito = 0; feito < conteudo.size();) {
-        const ssize_t n = ::write(d.fd, conteudo.data() + feito, conteudo.size() - feito);
+        const ssize_t n = ::write(d.fd(), conteudo.data() + feito, conteudo.size() - feito);
         if (n < 0 && errno == EINTR) continue;
         if (n <= 0) return false;
         feito += static_cast<std::size_t>(n);

@@ -12,6 +12,7 @@
 #include <thread>
 #include <unistd.h>
 
+#include "arquivos/descritor.h"
 #include "core/ajustes.h"
 #include "players/dobra_nome.h"
 #include "players/lugar_do_ajuste.h"
@@ -19,13 +20,6 @@
 namespace corvina {
 
 namespace {
-
-struct Descritor {
-    int fd;
-    ~Descritor() {
-        if (fd >= 0) ::close(fd);
-    }
-};
 
 std::string caminho(const std::string& chave, const std::string& nome) {
     const LugarDoAjuste l = lugarDoAjuste(chave, nome);
@@ -139,16 +133,16 @@ ArquivoDeAjustes::Leitura ArquivoDeAjustes::leDoDisco(const std::string& alvo, V
                                                       Identidade& id) const {
     // Without waiting: a pipe with no writer can't hold the game up.
     const Descritor d{::open(alvo.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY)};
-    if (d.fd < 0) return errno == ENOENT ? Leitura::Ausente : Leitura::Ilegivel;
+    if (d.fd() < 0) return errno == ENOENT ? Leitura::Ausente : Leitura::Ilegivel;
     struct stat st {};
-    if (::fstat(d.fd, &st) != 0) return Leitura::Ilegivel;
+    if (::fstat(d.fd(), &st) != 0) return Leitura::Ilegivel;
     if (!S_ISREG(st.st_mode)) return Leitura::NaoRegular;
     id = {st.st_dev, st.st_ino, st.st_size, st.st_mtim};
     if (static_cast<std::size_t>(st.st_size) > kMaiorArquivoDeAjustes) return Leitura::Danificada;
     std::string texto;
     char buf[16384];
     for (;;) {
-        const ssize_t n = ::read(d.fd, buf, sizeof buf);
+        const ssize_t n = ::read(d.fd(), buf, sizeof buf);
         if (n < 0 && errno == EINTR) continue;
         if (n < 0) return Leitura::Ilegivel;
         if (n == 0) break;
@@ -226,15 +220,15 @@ bool ArquivoDeAjustes::escreve() {
 
     std::string temporario = destino + ".XXXXXX";
     const Descritor d{::mkostemp(temporario.data(), O_CLOEXEC)};
-    if (d.fd < 0) return falha(std::strerror(errno));
-    const bool gravado = escreveTudo(d.fd, texto) && ::fsync(d.fd) == 0;
+    if (d.fd() < 0) return falha(std::strerror(errno));
+    const bool gravado = escreveTudo(d.fd(), texto) && ::fsync(d.fd()) == 0;
     const int erro = errno;
     if (!gravado || ::rename(temporario.c_str(), destino.c_str()) != 0) {
         ::unlink(temporario.c_str());
         return falha(std::strerror(gravado ? errno : erro));
     }
     const Descritor pasta{::open(pastaDe(destino).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)};
-    if (pasta.fd >= 0) ::fsync(pasta.fd);
+    if (pasta.fd() >= 0) ::fsync(pasta.fd());
     if (::stat(destino.c_str(), &st) == 0)
         lida_ = Identidade{st.st_dev, st.st_ino, st.st_size, st.st_mtim};
     mudancas_.clear();

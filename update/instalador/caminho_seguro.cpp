@@ -11,18 +11,6 @@
 
 namespace corvina {
 
-Descritor& Descritor::operator=(Descritor&& o) noexcept {
-    if (this != &o) {
-        if (fd_ >= 0) ::close(fd_);
-        fd_ = o.solta();
-    }
-    return *this;
-}
-
-Descritor::~Descritor() {
-    if (fd_ >= 0) ::close(fd_);
-}
-
 namespace {
 
 inline constexpr int kSoOLugar = O_PATH | O_NOFOLLOW | O_CLOEXEC;

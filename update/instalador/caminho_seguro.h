@@ -8,6 +8,8 @@
 
 #include <string>
 
+#include "arquivos/descritor.h"
+
 namespace corvina {
 
 // Who the file must belong to: the user, and the user's own group (a folder that this group
@@ -15,29 +17,6 @@ namespace corvina {
 struct DonoDoArquivo {
     uid_t usuario = 0;
     gid_t grupo = 0;
-};
-
-// A descriptor, closed with its holder.
-class Descritor {
-  public:
-    Descritor() = default;
-    explicit Descritor(int fd) : fd_(fd) {}
-    Descritor(Descritor&& o) noexcept : fd_(o.solta()) {}
-    Descritor& operator=(Descritor&& o) noexcept;
-    Descritor(const Descritor&) = delete;
-    Descritor& operator=(const Descritor&) = delete;
-    ~Descritor();
-
-    int fd() const { return fd_; }
-    explicit operator bool() const { return fd_ >= 0; }
-    int solta() {
-        const int fd = fd_;
-        fd_ = -1;
-        return fd;
-    }
-
-  private:
-    int fd_ = -1;
 };
 
 // `arquivo` is an absolute path below the folder `casa`. Opens it for reading, or gives an
