@@ -99,14 +99,21 @@ void FrmEstatisticas::mostra(const std::string& nome) {
     // As wide as the matches there are, up to the last hundred: a few matches fill the chart.
     const int partidas = static_cast<int>(
         std::min<std::size_t>(h.partidas.size(), static_cast<std::size_t>(kPartidasDaCurva)));
+    // Half a match of air at either end and a little above 100% and below 0%, so that no point
+    // lies on an axis or the frame; the ticks stay on whole matches and on 0, 50 and 100%.
+    const int ultima = std::max(partidas, kMenorEixo);
     auto* eixoX = new QValueAxis;
-    eixoX->setRange(1, std::max(partidas, kMenorEixo));
+    eixoX->setRange(0.5, ultima + 0.5);
     eixoX->setLabelFormat("%d");
-    eixoX->setTickCount(partidas > kMenorEixo ? 5 : kMenorEixo);
+    eixoX->setTickType(QValueAxis::TicksDynamic);
+    eixoX->setTickAnchor(0);
+    eixoX->setTickInterval(ultima <= kMenorEixo ? 1 : ultima <= 50 ? 10 : 20);
     auto* eixoY = new QValueAxis;
-    eixoY->setRange(0, 100);
+    eixoY->setRange(-8, 108);
     eixoY->setLabelFormat("%d%%");
-    eixoY->setTickCount(3);
+    eixoY->setTickType(QValueAxis::TicksDynamic);
+    eixoY->setTickAnchor(0);
+    eixoY->setTickInterval(50);
     for (QValueAxis* e : {eixoX, eixoY}) {
         e->setLabelsColor(kClaro);
         e->setGridLineColor(QColor(255, 255, 255, 40));
@@ -120,6 +127,7 @@ void FrmEstatisticas::mostra(const std::string& nome) {
         serie->setName(QString::fromStdString(colunasDoQuadro()[i].titulo));
         serie->setPen(QPen(kCores[i % kCores.size()], 2, kTracos[i % kTracos.size()]));
         serie->setPointsVisible(true); // a level met once still shows its point
+        serie->setMarkerSize(7);
         for (const PontoDaCurva& p : curvas[i]) serie->append(p.partida, 100 * p.fracao);
         grafico->addSeries(serie);
         serie->attachAxis(eixoX);

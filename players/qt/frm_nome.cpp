@@ -62,6 +62,7 @@ FrmNome::FrmNome(QWidget* dono, Module1& modulo, Armazem& armazem, Historicos& h
     label8_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     check4_ = new QCheckBox(this);
     check4_->setObjectName("Check4");
+    check4_->setAccessibleName("Modo assistido");
     check4_->setGeometry(emPixels(840, 2910, 195, 210));
     check4_->setStyleSheet("QCheckBox::indicator { width: 12px; height: 12px; }");
     const auto alterna = [this] {
@@ -142,6 +143,11 @@ void FrmNome::primeiraAtivacao() {
 }
 
 bool FrmNome::tecla(int key) {
+    // Escape is Cancelar where the window offers it (opened from the toolbar), else nothing.
+    if (key == Qt::Key_Escape && label15_->isVisible()) {
+        label15_->aciona();
+        return true;
+    }
     if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
     escolha_.jogar();
     accept();

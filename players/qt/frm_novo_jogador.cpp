@@ -21,6 +21,7 @@ FrmNovoJogador::FrmNovoJogador(QWidget* dono, Module1& modulo, Armazem& armazem,
     rotulo("Label1", "Digite o seu nome ou apelido:", emPixels(375, 690, 3495, 255));
     text1_ = new QLineEdit(this);
     text1_->setObjectName("Text1");
+    text1_->setAccessibleName("Nome do jogador");
     text1_->setGeometry(emPixels(375, 960, 4440, 315));
     text1_->setMaxLength(static_cast<int>(kLetrasDoNome));
     text1_->setText(QString::fromStdString(novo_.texto()));
@@ -34,6 +35,12 @@ FrmNovoJogador::FrmNovoJogador(QWidget* dono, Module1& modulo, Armazem& armazem,
     })->setAlignment(Qt::AlignCenter);
     CentraJanela(*this);
     text1_->setFocus();
+}
+
+bool FrmNovoJogador::tecla(int key) {
+    if (key != Qt::Key_Escape) return false;
+    reject();
+    return true;
 }
 
 void FrmNovoJogador::ok() {

@@ -19,6 +19,7 @@ class FrmNovoJogador : public JanelaDeFigura {
 
   protected:
     void done(int resultado) override;
+    bool tecla(int key) override; // Escape is Cancelar
 
   private:
     void ok();

@@ -29,9 +29,11 @@ FrmOpc::FrmOpc(QWidget* dono, Module1& modulo, Armazem& armazem)
     check1_ = caixa("Check1", "Tocar som", emPixels(510, 1065, 1455 + 600, 255), modulo.tocarSom);
     check2_ =
         caixa("Check2", "Tocar música", emPixels(510, 1410, 1815 + 600, 255), modulo.tocarMusica);
-    // Below the lower edge: nobody reaches it, so the cards always rise under the mouse.
+    // Below the lower edge: nobody reaches it, so the cards always rise under the mouse; nor
+    // does Tab stop on it.
     check3_ = caixa("Check3", "Animar suas cartas ao passar o mouse sobre elas.",
                     emPixels(360, 3675, 4095, 255), modulo.animarCartas);
+    check3_->setFocusPolicy(Qt::NoFocus);
     // Beside the sounds, in the window's free corner: the size of the table.
     rotulo("RotuloTamanho", "Tamanho da mesa", QRect(214, 68, 140, 17));
     tamanho_ = new QComboBox(this);
@@ -43,6 +45,7 @@ FrmOpc::FrmOpc(QWidget* dono, Module1& modulo, Armazem& armazem)
     rotulo("Label1", "Velocidade da movimentação das cartas", emPixels(1170, 1845, 3795, 255));
     hscroll1_ = new QSlider(Qt::Horizontal, this);
     hscroll1_->setObjectName("HScroll1");
+    hscroll1_->setAccessibleName("Velocidade da movimentação das cartas");
     hscroll1_->setGeometry(emPixels(510, 2115, 4695, 315));
     hscroll1_->setRange(kVelocidadeMinima, kVelocidadeMaxima);
     hscroll1_->setPageStep(1);
@@ -57,6 +60,12 @@ FrmOpc::FrmOpc(QWidget* dono, Module1& modulo, Armazem& armazem)
         reject();
     })->setAlignment(Qt::AlignCenter);
     centraNoDono(*this);
+}
+
+bool FrmOpc::tecla(int key) {
+    if (key != Qt::Key_Escape) return false;
+    reject();
+    return true;
 }
 
 void FrmOpc::ok() {

@@ -15,6 +15,9 @@ class FrmOpc : public JanelaDeFigura {
   public:
     FrmOpc(QWidget* dono, Module1& modulo, Armazem& armazem);
 
+  protected:
+    bool tecla(int key) override; // Escape is Cancelar
+
   private:
     void ok();
     Module1& modulo_;

@@ -44,6 +44,12 @@ FrmPlacar::FrmPlacar(QWidget* dono, const Module1& modulo, const Placar& placar,
     centraNoDono(*this);
 }
 
+bool FrmPlacar::tecla(int key) {
+    if (key != Qt::Key_Escape && key != Qt::Key_Return && key != Qt::Key_Enter) return false;
+    accept();
+    return true;
+}
+
 void FrmPlacar::pisca() {
     aceso_ = !aceso_;
     for (QLabel* l : {label3_, label4_, label5_, label6_}) l->setVisible(aceso_);

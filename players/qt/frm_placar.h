@@ -19,6 +19,7 @@ class FrmPlacar : public JanelaDeFigura {
 
   protected:
     void mouseMoveEvent(QMouseEvent* e) override;
+    bool tecla(int key) override; // Enter and Escape are OK
 
   private:
     void pisca();

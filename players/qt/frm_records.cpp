@@ -35,15 +35,21 @@ FrmRecords::FrmRecords(QWidget* dono, const Module1& modulo, Armazem& armazem,
                       celula("lbDerrotas", 7155, 975, Qt::AlignRight),
                       celula("lbSaldo", 8475, 855, Qt::AlignRight)};
     }
+    // The commands' words are drawn on the window's picture: a screen reader is told them.
     comando("Image1", "", emPixels(8205, 4185, 1245, 315), [this] {
         if (modulo_.tocarSom && som_) som_->tocaSom(som::kClique, false);
         accept();
-    });
-    comando("Image3", "", emPixels(9030, 210, 450, 330), [this] { accept(); });
-    comando("Image4", "", emPixels(180, 4185, 1125, 315), [this] { zera(); });
+    })->setAccessibleName("Fechar");
+    comando("Image3", "", emPixels(9030, 210, 450, 330), [this] {
+        accept();
+    })->setAccessibleName("Fechar");
+    comando("Image4", "", emPixels(180, 4185, 1125, 315), [this] {
+        zera();
+    })->setAccessibleName("Zerar");
     // Beside the hall: each player's own history.
-    comando("Estatisticas", "", QRect(270, 279, 102, 21),
-            [this] { FrmEstatisticas(this, modulo_, armazem_, historicos_).exec(); });
+    comando("Estatisticas", "", QRect(270, 279, 102, 21), [this] {
+        FrmEstatisticas(this, modulo_, armazem_, historicos_).exec();
+    })->setAccessibleName("Estatísticas");
     monta();
     vigiaTeclas();
     CentraJanela(*this);

@@ -14,8 +14,13 @@ FrmTipos::FrmTipos(QWidget* dono, Module1& modulo, Som* som)
     const int lefts[] = {210, 1410, 2610, 3810}, tops[] = {645, 2205};
     for (int i = 1; i <= kVersos; ++i) {
         const QByteArray nome = "tipo" + QByteArray::number(i);
-        comando(nome.constData(), "", emPixels(lefts[(i - 1) % 4], tops[(i - 1) / 4], 1065, 1440),
-                [this, i] { escolhe(i); });
+        Comando* verso = comando(nome.constData(), "",
+                                 emPixels(lefts[(i - 1) % 4], tops[(i - 1) / 4], 1065, 1440),
+                                 [this, i] { escolhe(i); });
+        // The back in use is framed, and said so.
+        const bool emUso = i == modulo.tipoCarta;
+        verso->setAccessibleName(QString("Verso %1%2").arg(i).arg(emUso ? " (em uso)" : ""));
+        if (emUso) verso->setStyleSheet("border: 2px solid rgb(230,196,110); border-radius: 3px;");
     }
     vigiaTeclas();
     centraNoDono(*this);

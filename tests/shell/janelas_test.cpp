@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractScrollArea>
 #include <QAccessible>
 #include <QApplication>
 #include <QCheckBox>
@@ -25,6 +26,7 @@
 #include "players/qt/frm_placar.h"
 #include "players/qt/frm_records.h"
 #include "players/qt/frm_sim_nao.h"
+#include "players/qt/frm_tipos.h"
 #include "players/qt/janela_de_figura.h"
 #include "shell/corvinahlp/janela_da_ajuda.h"
 #include "shell/janelas_qt.h"
@@ -140,7 +142,7 @@ TEST_F(Mesa, EveryToolbarWordAndTheTitlesPictureOpenTheirWindow) {
 }
 
 // Each text of a window, at the default font size, inside its own place and off the window's
-// wooden border.
+// wooden border; each part Tab reaches inside the window, with a name for a screen reader.
 void confereTextos(QWidget* janela) {
     constexpr int kBorda = 9; // the wood, its gold line and some air
     const QRect feltro = janela->rect().adjusted(kBorda, kBorda, -kBorda, -kBorda);
@@ -163,6 +165,17 @@ void confereTextos(QWidget* janela) {
         if (c->text().isEmpty() || c->geometry().top() >= janela->height()) continue;
         EXPECT_LE(c->sizeHint().width(), c->width()) << c->objectName().toStdString();
     }
+    // Whatever Tab reaches lies inside the window and tells a screen reader what it is.
+    for (QWidget* parte : janela->findChildren<QWidget*>()) {
+        if (!(parte->focusPolicy() & Qt::TabFocus) || parte->isHidden() ||
+            parte->window() != janela || qobject_cast<QAbstractScrollArea*>(parte->parent()))
+            continue; // a popup's list, or the inside of a view that is named itself
+        EXPECT_TRUE(janela->rect().contains(QRect(parte->mapTo(janela, QPoint()), parte->size())))
+            << janela->objectName().toStdString() << "." << parte->objectName().toStdString();
+        EXPECT_FALSE(
+            QAccessible::queryAccessibleInterface(parte)->text(QAccessible::Name).isEmpty())
+            << janela->objectName().toStdString() << "." << parte->objectName().toStdString();
+    }
 }
 
 TEST(Textos, EveryTextFitsItsPlace) {
@@ -181,14 +194,46 @@ TEST(Textos, EveryTextFitsItsPlace) {
     FrmNivel nivel(nullptr, m, a);
     banco.registraPartida(m.nomeJogador, {9000, TipoNivel::Classico, true, true, 4, 3}, {});
     FrmEstatisticas estatisticas(nullptr, m, a, banco);
+    FrmTipos tipos(nullptr, m, nullptr);
     for (QWidget* w : std::initializer_list<QWidget*>{&nome, &novo, &opc, &placar, &records, &sobre,
-                                                      &up, &nivel, &estatisticas})
+                                                      &up, &nivel, &estatisticas, &tipos})
         confereTextos(w);
     quandoAbrir("FrmSimNao", [](QWidget* w) {
         confereTextos(w);
         QTest::keyClick(w, Qt::Key_Escape);
     });
     SimNao(nullptr, "Deseja realmente zerar o Hall da Fama?", "Corvina");
+}
+
+// Escape does what each window's Cancelar does, or its OK where that is all it offers.
+TEST(Escape, IsEachWindowsCancelOrItsOnlyAnswer) {
+    Module1 m;
+    ArmazemMemoria a;
+    BancoDoJogo banco(":memory:");
+    a.grava(chaveBase(), ajuste::jogador(1), "Ana");
+    const struct {
+        const char* janela;
+        std::function<int()> abre;
+        int resultado;
+    } casos[] = {
+        {"FrmOpc", [&] { return FrmOpc(nullptr, m, a).exec(); }, QDialog::Rejected},
+        {"FrmNovoJogador",
+         [&] { return FrmNovoJogador(nullptr, m, a, [](const std::string&) {}).exec(); },
+         QDialog::Rejected},
+        {"FrmNome", [&] { return FrmNome(nullptr, m, a, banco, nullptr, true).exec(); },
+         QDialog::Rejected},
+        {"FrmPlacar",
+         [&] {
+             return FrmPlacar(nullptr, m, {"Vencedor", 1, 0, false}).exec();
+         },
+         QDialog::Accepted},
+    };
+    for (const auto& c : casos) {
+        quandoAbrir(c.janela, [](QWidget* w) { QTest::keyClick(w, Qt::Key_Escape); });
+        EXPECT_EQ(c.abre(), c.resultado) << c.janela;
+    }
+    EXPECT_EQ(a.le(chaveBase(), ajuste::kVelocidade, "?"), "?") << "nothing stored on Cancelar";
+    EXPECT_EQ(a.le(chaveBase(), ajuste::jogador(2), "?"), "?") << "and no player added";
 }
 
 TEST(Ajuda, EscapeOrCtrlQClosesIt) {
