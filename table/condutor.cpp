@@ -154,6 +154,12 @@ void Condutor::arrasta(float x, float y) {
 void Condutor::sobre(int16 casa) {
     if (ocupado()) return;
     cj_MouseMove(jogo_, vista_, casa);
+    // The pointer's card is the keys' too: one card chosen, raised, which a click and Enter both
+    // throw and a screen reader is told of.
+    if (int16& foco = vista_.cena().foco; foco != casa) {
+        foco = casa;
+        vista_.mudouAFoco();
+    }
     assentaAtencao(jogo_, vista_);
 }
 

@@ -44,18 +44,26 @@ TEST(MesaNaTela, TheKeysWalkTheRowAndCarryTheCardInFocus) {
     EXPECT_EQ(t.vista.cena()[peca::cj(1)].Top, m.yMao);
 
     // A screen reader moves the card beside it over it: the focus and the raise stay on the
-    // card they were on, which Enter then throws.
+    // card they were on.
     const Carta emFoco = cartaNa(m.jogValor, m.jogNaipe, 2);
     QAccessible::queryAccessibleInterface(&t.janela)->child(0)->actionInterface()->doAction(
         "mover para a direita");
     EXPECT_EQ(t.vista.cena().foco, 1);
     EXPECT_LT(t.vista.cena()[peca::cj(1)].Top, m.yMao);
     EXPECT_EQ(t.vista.cena()[peca::cj(2)].Top, m.yMao);
+    EXPECT_EQ(cartaNa(m.jogValor, m.jogNaipe, 1), emFoco);
+
+    // The pointer over another card takes the choice over: one card raised, the one Enter throws.
+    t.move(t.janela.retanguloDa(peca::cj(4)).center());
+    for (int casa = 1; casa <= m.qtdJog; ++casa)
+        EXPECT_EQ(t.vista.cena()[peca::cj(casa)].Top < m.yMao, casa == 4) << casa;
+    EXPECT_EQ(t.vista.cena().foco, 4);
+    const Carta apontada = cartaNa(m.jogValor, m.jogNaipe, 4);
     t.tecla(Qt::Key_Return);
     for (int i = 0; i < 500 && t.jogo.historico.descartes.empty(); ++i)
         QApplication::processEvents(QEventLoop::AllEvents, 1);
     ASSERT_FALSE(t.jogo.historico.descartes.empty());
-    EXPECT_EQ(t.jogo.historico.descartes.front(), emFoco);
+    EXPECT_EQ(t.jogo.historico.descartes.front(), apontada);
 }
 
 // A whole match by one way in alone, following the hint as its player takes it in: by the keys
