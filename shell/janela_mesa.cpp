@@ -159,16 +159,34 @@ QPoint JanelaMesa::naMesa(const QMouseEvent* e) const {
 
 void JanelaMesa::aplicaTamanho(int porcento) {
     moldura_.tamanho(porcento);
-    if (!isFullScreen()) setFixedSize(moldura_.janela());
+    if (!isFullScreen()) {
+        setFixedSize(moldura_.janela());
+        ficaNaTela();
+    }
     update();
+}
+
+void JanelaMesa::ficaNaTela() {
+    const QScreen* tela = screen();
+    if (!tela || !isVisible()) return;
+    const QRect livre = tela->availableGeometry();
+    QRect onde = frameGeometry();
+    onde.moveLeft(std::clamp(onde.left(), livre.left(),
+                             std::max(livre.left(), livre.right() - onde.width() + 1)));
+    onde.moveTop(std::clamp(onde.top(), livre.top(),
+                            std::max(livre.top(), livre.bottom() - onde.height() + 1)));
+    if (onde.topLeft() != frameGeometry().topLeft()) move(onde.topLeft());
 }
 
 void JanelaMesa::alternaTelaCheia() {
     if (isFullScreen()) {
+        moldura_.preenche(false);
         showNormal();
         setFixedSize(moldura_.janela());
         move(ondeEstava_);
+        ficaNaTela();
     } else {
+        moldura_.preenche(true);
         ondeEstava_ = pos();
         setMinimumSize(0, 0);
         setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
@@ -181,7 +199,7 @@ void JanelaMesa::alternaTelaCheia() {
 void JanelaMesa::paintEvent(QPaintEvent*) {
     // The pictures for the screen the window is on now and the table's size: the set made for
     // twice the size as soon as either enlarges it.
-    imagens_.paraARazao(devicePixelRatioF() * moldura_.fator());
+    imagens_.paraARazao(devicePixelRatioF() * moldura_.fatorEm(size()));
     QPainter p(this);
     if (size() != moldura_.janela()) p.fillRect(rect(), lugar::kFeltro);
     p.setTransform(moldura_.paraJanela(size()));

@@ -8,6 +8,10 @@
 #include <QTimer>
 #include <unistd.h>
 
+#include <climits>
+#include <cstring>
+#include <string>
+
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
@@ -91,6 +95,21 @@ struct Programa {
     }
 };
 
+// The game's own file, as the system found it. Started through the dynamic loader
+// ("ld-linux-x86-64.so.2 ./corvina"), the system ran the loader, and the game is the path the
+// loader was given; "" when that can't be told.
+std::string esteProgramaNoDisco(const char* argumento0) {
+    char caminho[PATH_MAX];
+    const ssize_t n = ::readlink("/proc/self/exe", caminho, sizeof caminho - 1);
+    if (n <= 0) return {};
+    const std::string exe(caminho, static_cast<std::size_t>(n));
+    const std::string nome = exe.substr(exe.rfind('/') + 1);
+    if (nome.rfind("ld-", 0) != 0) return exe;
+    char real[PATH_MAX];
+    if (!argumento0 || !std::strchr(argumento0, '/') || !::realpath(argumento0, real)) return {};
+    return ::access(real, X_OK) == 0 ? real : std::string();
+}
+
 // A large screen the desktop left at ratio 1 (a 4K monitor without scaling): the program
 // starts again with Qt's scale factor, as on a desktop that scales, so that the small windows
 // grow with the table. Any scaling the user asked of Qt is kept as it is, and the test
@@ -103,10 +122,13 @@ void escalaATela(char** argumentos) {
     const QScreen* tela = QGuiApplication::primaryScreen();
     if (!tela || plataforma == "offscreen" || plataforma == "minimal") return;
     const int fator =
-        corvina::fatorDaTela(tela->availableGeometry().height(), tela->devicePixelRatio());
+        corvina::fatorDaTela(tela->availableGeometry().width(), tela->availableGeometry().height(),
+                             tela->devicePixelRatio());
     if (fator <= 1) return;
+    const std::string programa = esteProgramaNoDisco(argumentos[0]);
+    if (programa.empty()) return;
     qputenv("QT_SCALE_FACTOR", QByteArray::number(fator));
-    ::execv("/proc/self/exe", argumentos);
+    ::execv(programa.c_str(), argumentos);
     qunsetenv("QT_SCALE_FACTOR"); // it could not start again: this run goes on unscaled
 }
 

@@ -11,12 +11,16 @@ QSize MolduraDaMesa::janela() const {
             static_cast<int>(std::lround(kAlturaDaMesa * fator()))};
 }
 
+double MolduraDaMesa::fatorEm(QSize area) const {
+    return preenche_ ? fatorQuePreenche(area.width(), area.height()) : fator();
+}
+
 QTransform MolduraDaMesa::paraJanela(QSize area) const {
-    const QSize mesa = janela();
+    const double f = fatorEm(area);
     // Whole pixels, so that the cards' edges stay sharp.
-    const int x = std::max(0, (area.width() - mesa.width()) / 2);
-    const int y = std::max(0, (area.height() - mesa.height()) / 2);
-    return QTransform::fromTranslate(x, y).scale(fator(), fator());
+    const int x = std::max(0, static_cast<int>((area.width() - kLarguraDaMesa * f) / 2));
+    const int y = std::max(0, static_cast<int>((area.height() - kAlturaDaMesa * f) / 2));
+    return QTransform::fromTranslate(x, y).scale(f, f);
 }
 
 QRect MolduraDaMesa::paraJanela(const QRect& r, QSize area) const {

@@ -15,6 +15,10 @@ class MolduraDaMesa {
     void tamanho(int porcento) { porcento_ = porcento; }
     int tamanho() const { return porcento_; }
     double fator() const { return porcento_ / 100.0; }
+    // Full screen: the table fills the area, at whatever scale reaches its height or width.
+    void preenche(bool sim) { preenche_ = sim; }
+    // The scale the table is drawn at in a window of size `area`.
+    double fatorEm(QSize area) const;
     // The window's size out of full screen.
     QSize janela() const;
     // From the table's pixels to those of a window of size `area`.
@@ -24,6 +28,7 @@ class MolduraDaMesa {
 
   private:
     int porcento_ = 100;
+    bool preenche_ = false;
 };
 
 } // namespace corvina

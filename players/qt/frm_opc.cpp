@@ -2,6 +2,8 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QGuiApplication>
+#include <QScreen>
 #include <QSlider>
 
 #include "core/ajustes.h"
@@ -40,7 +42,11 @@ FrmOpc::FrmOpc(QWidget* dono, Module1& modulo, Armazem& armazem)
     tamanho_->setObjectName("TamanhoDaMesa");
     tamanho_->setAccessibleName("Tamanho da mesa");
     tamanho_->setGeometry(214, 88, 90, 22);
-    for (const int t : kTamanhosDaMesa) tamanho_->addItem(QString("%1%").arg(t), t);
+    // Only the sizes whose table lies wholly on the screen the table is on.
+    const QScreen* tela = dono ? dono->screen() : QGuiApplication::primaryScreen();
+    const QRect livre = tela ? tela->availableGeometry() : QRect(0, 0, 1 << 20, 1 << 20);
+    for (const int t : tamanhosQueCabem(livre.width(), livre.height()))
+        tamanho_->addItem(QString("%1%").arg(t), t);
     tamanho_->setCurrentIndex(std::max(0, tamanho_->findData(modulo.tamanhoDaMesa)));
     rotulo("Label1", "Velocidade da movimentação das cartas", emPixels(1170, 1845, 3795, 255));
     hscroll1_ = new QSlider(Qt::Horizontal, this);

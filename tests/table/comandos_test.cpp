@@ -117,15 +117,39 @@ TEST(TamanhoDaMesa, TheLargestThatFitsOrTheOneChosen) {
     for (const auto& c : casos)
         EXPECT_EQ(tamanhoDaMesa(c.guardado, c.largura, c.altura), c.tamanho)
             << c.largura << "x" << c.altura << " \"" << c.guardado << "\"";
-    // The whole program's scale: only where the desktop left a large screen at ratio 1.
+    // The whole program's scale: only where the desktop left a large screen at ratio 1, in
+    // both its sides (a portrait 4K screen is narrow).
     const struct {
-        int altura;
+        int largura, altura;
         double razao;
         int fator;
-    } telas[] = {{1040, 1, 1}, {1400, 1, 1}, {1560, 1, 1}, {2100, 1, 2},   {2840, 1, 2},
-                 {4280, 1, 3}, {8600, 1, 3}, {2100, 2, 1}, {2100, 1.5, 1}, {0, 1, 1}};
+    } telas[] = {{1920, 1040, 1, 1}, {2560, 1400, 1, 1},   {3840, 2100, 1, 2},
+                 {3840, 2100, 2, 1}, {3840, 2100, 1.5, 1}, {5120, 2840, 1, 2},
+                 {7680, 4280, 1, 3}, {2160, 3800, 1, 1},   {0, 0, 1, 1}};
     for (const auto& t : telas)
-        EXPECT_EQ(fatorDaTela(t.altura, t.razao), t.fator) << t.altura << " at " << t.razao;
+        EXPECT_EQ(fatorDaTela(t.largura, t.altura, t.razao), t.fator)
+            << t.largura << "x" << t.altura << " at " << t.razao;
+}
+
+// The sizes offered lie wholly on the screen, the largest that fits among them; full screen
+// fills the screen's height or width.
+TEST(TamanhoDaMesa, TheSizesOfferedFitTheScreenAndFullScreenFillsIt) {
+    const struct {
+        int largura, altura;
+        std::vector<int> oferecidos;
+        double cheia;
+    } casos[] = {
+        {1920, 1040, {100, 125, 150}, 1.733},
+        {1280, 994, {100, 125, 150}, 1.6},
+        {1024, 740, {100}, 1.233},
+        {800, 560, {100}, 0.933},
+        {2160, 3800, {100, 125, 150, 175, 200, 250}, 2.7},
+        {3840, 2100, {100, 125, 150, 175, 200, 250, 300}, 3.5},
+    };
+    for (const auto& c : casos) {
+        EXPECT_EQ(tamanhosQueCabem(c.largura, c.altura), c.oferecidos) << c.largura;
+        EXPECT_NEAR(fatorQuePreenche(c.largura, c.altura), c.cheia, 0.001) << c.largura;
+    }
 }
 
 } // namespace
