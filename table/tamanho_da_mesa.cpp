@@ -38,8 +38,9 @@ double fatorQuePreenche(int largura, int altura) {
 }
 
 int tamanhoDaMesa(std::string_view guardado, int larguraLivre, int alturaLivre) {
-    const int cabe = maiorTamanhoQueCabe(larguraLivre, alturaLivre);
-    if (guardado.empty()) return cabe;
+    if (guardado.empty()) return maiorTamanhoQueCabe(larguraLivre, alturaLivre);
+    // A size chosen stands while its table lies wholly on the screen.
+    const int cabe = tamanhosQueCabem(larguraLivre, alturaLivre).back();
     const long pedido = numeroDoTexto(guardado);
     int escolhido = kTamanhosDaMesa.front();
     for (const int t : kTamanhosDaMesa)

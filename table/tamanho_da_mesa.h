@@ -25,7 +25,8 @@ std::vector<int> tamanhosQueCabem(int larguraLivre, int alturaLivre);
 double fatorQuePreenche(int largura, int altura);
 
 // The size to draw at: `guardado` is the stored value ("" on a first start; anything that
-// isn't one of the sizes counts as the nearest below it, and 100 at least).
+// isn't one of the sizes counts as the nearest below it, and 100 at least), as far as it is
+// among the sizes that fit.
 int tamanhoDaMesa(std::string_view guardado, int larguraLivre, int alturaLivre);
 
 // The scale the whole program asks of the screen, so that the small windows, drawn for a
