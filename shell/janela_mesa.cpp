@@ -11,6 +11,7 @@
 #include "core/ativacao.h"
 #include "core/pecas.h"
 #include "core/textos.h"
+#include "players/qt/janela_de_figura.h"
 #include "players/qt/lugar_da_janela.h"
 #include "shell/ajuda.h"
 #include "shell/lugares_da_mesa.h"
@@ -159,6 +160,8 @@ QPoint JanelaMesa::naMesa(const QMouseEvent* e) const {
 
 void JanelaMesa::aplicaTamanho(int porcento) {
     moldura_.tamanho(porcento);
+    // Beside a large table on a screen the desktop left unscaled, the small windows grow too.
+    JanelaDeFigura::escala(porcento >= 150 && devicePixelRatioF() == 1.0 ? porcento / 100.0 : 1.0);
     if (!isFullScreen()) {
         setFixedSize(moldura_.janela());
         ficaNaTela();

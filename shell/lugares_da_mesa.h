@@ -29,9 +29,10 @@ inline const QRect kLabel6(122, 299, 531, 15);
 inline const QRect kPlacar1(15, 288, 40, 34), kPlacar2(15, 110, 38, 34);
 inline const QRect kLabel10(114, 311, 20, 15), kLabel11(105, 107, 23, 15);
 // Beside the pile, right of it: the opponent's level and the deal, and the hint's command.
-inline const QRect kNivel(591, 290, 176, 36);
-inline const QRect kDica(591, 332, 176, 18);
-inline const QRect kQuatroCores(591, 352, 200, 18); // to 9 pixels off the window's edge
+// The right column of the felt; its longest line ends some 8 pixels inside the felt's edge.
+inline const QRect kNivel(585, 290, 176, 36);
+inline const QRect kDica(585, 332, 176, 18);
+inline const QRect kQuatroCores(585, 352, 194, 18);
 
 inline const QColor kOuroDaDica(250, 214, 90);
 inline const QColor kFeltro(21, 130, 64); // the panel's green, around the table in full screen

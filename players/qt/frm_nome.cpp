@@ -43,14 +43,17 @@ FrmNome::FrmNome(QWidget* dono, Module1& modulo, Armazem& armazem, Historicos& h
     combo1_->setGeometry(emPixels(510, 1065, 5295, 360));
     combo1_->setStyleSheet(kEstiloLista);
     combo1_->setMaxVisibleItems(12);
-    const auto par = [this](const char* nc, const char* texto, int lc, const char* nv, int lv) {
-        rotulo(nc, texto, emPixels(lc, 1545, 1100, 255), 11, false, QColor(214, 200, 160));
-        return rotulo(nv, "0", emPixels(lv, 1785, 1100, 255), 13, true);
+    // Each figure centred under its heading.
+    const auto par = [this](const char* nc, const char* texto, int left, const char* nv) {
+        rotulo(nc, texto, emPixels(left, 1545, 1100, 255), 11, false, QColor(214, 200, 160),
+               Qt::AlignCenter);
+        return rotulo(nv, "0", emPixels(left, 1785, 1100, 255), 13, true, QColor(240, 236, 220),
+                      Qt::AlignCenter);
     };
-    label10_ = par("Label2", "Jogos ", 930, "Label10", 930);
-    label4_ = par("Label3", "Vitórias", 2010, "Label4", 1890);
-    label5_ = par("Label11", "Derrotas", 3090, "Label5", 3330);
-    label7_ = par("Label6", "Saldo", 4395, "Label7", 4395);
+    label10_ = par("Label2", "Jogos", 930, "Label10");
+    label4_ = par("Label3", "Vitórias", 2010, "Label4");
+    label5_ = par("Label11", "Derrotas", 3090, "Label5");
+    label7_ = par("Label6", "Saldo", 4170, "Label7");
     label16_ = comando("Label16", "Excluir", emPixels(300, 2415, 2490, 255), [this] {
         escolha_.excluir();
         mostra();

@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTimer>
+#include <cmath>
 
 #include "midia/janelas_figuras.h"
 #include "players/qt/comando_acessivel.h"
@@ -99,6 +100,48 @@ JanelaDeFigura::JanelaDeFigura(QWidget* dono, const char* figura, QSize tamanho)
     setFont(fonte(12, false));
 }
 
+namespace {
+double escalaDasJanelas = 1.0;
+} // namespace
+
+void JanelaDeFigura::escala(double fator) {
+    escalaDasJanelas = fator;
+}
+
+double JanelaDeFigura::escala() {
+    return escalaDasJanelas;
+}
+
+void JanelaDeFigura::setVisible(bool visivel) {
+    // Laid out once, at the scale of the moment it first shows, around the same centre.
+    if (visivel && escalada_ == 1.0 && escalaDasJanelas != 1.0) aplicaEscala(escalaDasJanelas);
+    QDialog::setVisible(visivel);
+}
+
+void JanelaDeFigura::aplicaEscala(double fator) {
+    escalada_ = fator;
+    const auto vezes = [fator](int n) { return static_cast<int>(std::lround(n * fator)); };
+    const auto cresce = [&](QWidget* w) {
+        QFont f = w->font();
+        if (f.pixelSize() > 0) f.setPixelSize(vezes(f.pixelSize()));
+        w->setFont(f);
+    };
+    cresce(this);
+    for (QWidget* w : findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (w->isWindow()) continue;
+        const QRect g = w->geometry();
+        w->setGeometry(vezes(g.x()), vezes(g.y()), vezes(g.width()), vezes(g.height()));
+        // A part with a style sheet keeps the font it was polished with unless given one.
+        if (w->testAttribute(Qt::WA_SetFont))
+            cresce(w);
+        else
+            w->setFont(font());
+    }
+    const QPoint centro = geometry().center();
+    setFixedSize(vezes(width()), vezes(height()));
+    move(centro - QPoint(width() / 2, height() / 2));
+}
+
 QRect JanelaDeFigura::emPixels(int left, int top, int width, int height) {
     return {left / kTwipsPorPixel, top / kTwipsPorPixel, width / kTwipsPorPixel,
             height / kTwipsPorPixel};
@@ -143,7 +186,7 @@ void JanelaDeFigura::showEvent(QShowEvent* e) {
 void JanelaDeFigura::paintEvent(QPaintEvent*) {
     QPainter p(this);
     p.setRenderHint(QPainter::SmoothPixmapTransform, true);
-    p.drawPixmap(0, 0, figuraDaJanela(figura_, devicePixelRatioF()));
+    p.drawPixmap(rect(), figuraDaJanela(figura_, devicePixelRatioF() * escalada_));
 }
 
 void JanelaDeFigura::keyPressEvent(QKeyEvent* e) {

@@ -38,6 +38,12 @@ class JanelaDeFigura : public QDialog {
     // `figura`: the surface's name ("frmnome"), read for the screen the window is on.
     JanelaDeFigura(QWidget* dono, const char* figura, QSize tamanho);
 
+    // The scale every small window is drawn at: the table's own when the table is drawn large
+    // on a screen the desktop left unscaled, so that a window doesn't stand small beside it.
+    static void escala(double fator);
+    static double escala();
+    void setVisible(bool visivel) override;
+
   protected:
     static QRect emPixels(int left, int top, int width, int height); // from twips
     QLabel* rotulo(const char* nome, const QString& texto, QRect lugar, int px = 12,
@@ -61,7 +67,10 @@ class JanelaDeFigura : public QDialog {
     bool eventFilter(QObject* alvo, QEvent* e) override;
 
   private:
+    void aplicaEscala(double fator);
+
     const char* figura_;
+    double escalada_ = 1.0; // the scale its parts are laid out at
     QWidget* alca_ = nullptr;
     bool ativada_ = false;
 };
