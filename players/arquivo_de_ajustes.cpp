@@ -62,18 +62,13 @@ class Trava {
                      O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY, 0600)) {
         using namespace std::chrono;
         const auto limite = steady_clock::now() + seconds(2);
-        while (fd_ >= 0 && ::flock(fd_, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK &&
+        while (fd_ && ::flock(fd_.fd(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK &&
                steady_clock::now() < limite)
             std::this_thread::sleep_for(milliseconds(10));
     }
-    ~Trava() {
-        if (fd_ >= 0) ::close(fd_);
-    }
-    Trava(const Trava&) = delete;
-    Trava& operator=(const Trava&) = delete;
 
   private:
-    int fd_;
+    Descritor fd_; // closing it lets go of the lock
 };
 
 bool escreveTudo(int fd, const std::string& texto) {
