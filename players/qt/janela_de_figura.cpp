@@ -120,14 +120,21 @@ void JanelaDeFigura::setVisible(bool visivel) {
 
 void JanelaDeFigura::aplicaEscala(double fator) {
     escalada_ = fator;
+    escalaAJanela(*this, fator);
+}
+
+void escalaAJanela(QWidget& janela, double fator) {
     const auto vezes = [fator](int n) { return static_cast<int>(std::lround(n * fator)); };
     const auto cresce = [&](QWidget* w) {
         QFont f = w->font();
-        if (f.pixelSize() > 0) f.setPixelSize(vezes(f.pixelSize()));
+        if (f.pixelSize() > 0)
+            f.setPixelSize(vezes(f.pixelSize()));
+        else if (f.pointSizeF() > 0)
+            f.setPointSizeF(f.pointSizeF() * fator);
         w->setFont(f);
     };
-    cresce(this);
-    for (QWidget* w : findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+    cresce(&janela);
+    for (QWidget* w : janela.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
         if (w->isWindow()) continue;
         const QRect g = w->geometry();
         w->setGeometry(vezes(g.x()), vezes(g.y()), vezes(g.width()), vezes(g.height()));
@@ -135,11 +142,11 @@ void JanelaDeFigura::aplicaEscala(double fator) {
         if (w->testAttribute(Qt::WA_SetFont))
             cresce(w);
         else
-            w->setFont(font());
+            w->setFont(janela.font());
     }
-    const QPoint centro = geometry().center();
-    setFixedSize(vezes(width()), vezes(height()));
-    move(centro - QPoint(width() / 2, height() / 2));
+    const QPoint centro = janela.geometry().center();
+    janela.setFixedSize(vezes(janela.width()), vezes(janela.height()));
+    janela.move(centro - QPoint(janela.width() / 2, janela.height() / 2));
 }
 
 QRect JanelaDeFigura::emPixels(int left, int top, int width, int height) {

@@ -33,6 +33,10 @@ class Comando : public QLabel {
     bool focoDoTeclado_ = false; // the frame shows only for a focus the keys brought
 };
 
+// Lays a window's parts out again at `fator`, around the same centre: their places, their
+// fonts and the window's fixed size.
+void escalaAJanela(QWidget& janela, double fator);
+
 class JanelaDeFigura : public QDialog {
   public:
     // `figura`: the surface's name ("frmnome"), read for the screen the window is on.

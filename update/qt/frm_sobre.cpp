@@ -64,6 +64,9 @@ FrmSobre::FrmSobre(QWidget* dono, Versao versao)
         FrmUp(this, link, versao, assinatura).exec();
     };
     if (dono) centraNoDono(*this);
+    // Beside a large table it grows, as the other small windows do.
+    escala_ = JanelaDeFigura::escala();
+    if (escala_ != 1.0) escalaAJanela(*this, escala_);
 }
 
 QString FrmSobre::GetUpdate() {
@@ -96,7 +99,7 @@ void FrmSobre::atualizar() {
 void FrmSobre::paintEvent(QPaintEvent*) {
     QPainter p(this);
     p.setRenderHint(QPainter::SmoothPixmapTransform, true);
-    p.drawPixmap(0, 0, figuraDaJanela("frmsobre", devicePixelRatioF()));
+    p.drawPixmap(rect(), figuraDaJanela("frmsobre", devicePixelRatioF() * escala_));
 }
 
 } // namespace corvina

@@ -31,7 +31,8 @@ class FrmSobre : public QDialog {
 
   private:
     Versao versao_;
-    DL dl1_; // one per window: a give-up lasts until the window is opened again
+    double escala_ = 1.0; // the small windows' scale when it opened
+    DL dl1_;              // one per window: a give-up lasts until the window is opened again
     QPushButton* command1_;
 };
 
