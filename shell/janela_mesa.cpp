@@ -16,6 +16,7 @@
 #include "shell/ajuda.h"
 #include "shell/lugares_da_mesa.h"
 #include "shell/pintura_da_mesa.h"
+#include "shell/teclas_da_mesa.h"
 #include "table/arraste.h"
 #include "table/tamanho_da_mesa.h"
 #include "table/teclado.h"
@@ -23,40 +24,6 @@
 namespace corvina {
 
 namespace {
-constexpr int kTeclaNivel = Qt::Key_N, kTeclaDica = Qt::Key_D, kTeclaQuatroCores = Qt::Key_Q;
-// The keys of the play: B the stock (baralho), P the pile, O the sort; Enter or Space discards.
-constexpr int kTeclaBaralho = Qt::Key_B, kTeclaPilha = Qt::Key_P, kTeclaOrdenar = Qt::Key_O;
-
-std::optional<Tecla> teclaDaMesa(const QKeyEvent& e) {
-    const auto mods = e.modifiers() & ~Qt::KeypadModifier;
-    const bool nada = mods == Qt::NoModifier, shift = mods == Qt::ShiftModifier;
-    const auto so = [&](Tecla t) { return nada ? std::optional(t) : std::nullopt; };
-    switch (e.key()) {
-    case Qt::Key_Left:
-        return shift ? std::optional(Tecla::CartaAEsquerda) : so(Tecla::Esquerda);
-    case Qt::Key_Right:
-        return shift ? std::optional(Tecla::CartaADireita) : so(Tecla::Direita);
-    case Qt::Key_Home:
-        return so(Tecla::Primeira);
-    case Qt::Key_End:
-        return so(Tecla::Ultima);
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-    case Qt::Key_Space:
-        return so(Tecla::Descartar);
-    case Qt::Key_Escape:
-        return so(Tecla::Solta);
-    case kTeclaBaralho:
-        return so(Tecla::Baralho);
-    case kTeclaPilha:
-        return so(Tecla::Pilha);
-    case kTeclaOrdenar:
-        return so(Tecla::Ordenar);
-    default:
-        return std::nullopt;
-    }
-}
-
 Qt::CursorShape cursorDe(Ponteiro p) {
     switch (p) {
     case Ponteiro::proibido:
@@ -164,21 +131,9 @@ void JanelaMesa::aplicaTamanho(int porcento) {
     JanelaDeFigura::escala(porcento >= 150 && devicePixelRatioF() == 1.0 ? porcento / 100.0 : 1.0);
     if (!isFullScreen()) {
         setFixedSize(moldura_.janela());
-        ficaNaTela();
+        ficaNaTela(*this);
     }
     update();
-}
-
-void JanelaMesa::ficaNaTela() {
-    const QScreen* tela = screen();
-    if (!tela || !isVisible()) return;
-    const QRect livre = tela->availableGeometry();
-    QRect onde = frameGeometry();
-    onde.moveLeft(std::clamp(onde.left(), livre.left(),
-                             std::max(livre.left(), livre.right() - onde.width() + 1)));
-    onde.moveTop(std::clamp(onde.top(), livre.top(),
-                            std::max(livre.top(), livre.bottom() - onde.height() + 1)));
-    if (onde.topLeft() != frameGeometry().topLeft()) move(onde.topLeft());
 }
 
 void JanelaMesa::alternaTelaCheia() {
@@ -187,7 +142,7 @@ void JanelaMesa::alternaTelaCheia() {
         showNormal();
         setFixedSize(moldura_.janela());
         move(ondeEstava_);
-        ficaNaTela();
+        ficaNaTela(*this);
     } else {
         moldura_.preenche(true);
         ondeEstava_ = pos();

@@ -83,7 +83,6 @@ class JanelaMesa : public QWidget {
     QPoint naMesa(const QMouseEvent* e) const;
     // The size (percent) the table is drawn at, and full screen.
     void aplicaTamanho(int porcento);
-    void ficaNaTela(); // the window moved wholly onto its screen's free area
     void alternaTelaCheia();
     void clique(const Toque& t);
     void atende(PedidoDaTecla pedido);

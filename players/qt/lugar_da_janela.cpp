@@ -4,6 +4,7 @@
 #include <QScreen>
 #include <QWidget>
 #include <QWindow>
+#include <algorithm>
 
 namespace corvina {
 
@@ -23,6 +24,18 @@ void centraNoDono(QWidget& janela) {
 
 void moveJanela(QWidget& janela) {
     if (QWindow* w = janela.windowHandle()) w->startSystemMove();
+}
+
+void ficaNaTela(QWidget& janela) {
+    const QScreen* tela = janela.screen();
+    if (!tela || !janela.isVisible()) return;
+    const QRect livre = tela->availableGeometry();
+    QRect onde = janela.frameGeometry();
+    onde.moveLeft(std::clamp(onde.left(), livre.left(),
+                             std::max(livre.left(), livre.right() - onde.width() + 1)));
+    onde.moveTop(std::clamp(onde.top(), livre.top(),
+                            std::max(livre.top(), livre.bottom() - onde.height() + 1)));
+    if (onde.topLeft() != janela.frameGeometry().topLeft()) janela.move(onde.topLeft());
 }
 
 } // namespace corvina

@@ -12,6 +12,9 @@ void CentraJanela(QWidget& janela);
 // Centred on its owner's window; on the screen when it has none.
 void centraNoDono(QWidget& janela);
 
+// Moved, where it reaches past it, wholly onto the free area of the screen it stands on.
+void ficaNaTela(QWidget& janela);
+
 // Lets the window system drag a window that has no title bar, while the left button is held
 // on its handle.
 void moveJanela(QWidget& janela);
