@@ -9,12 +9,11 @@
 #include <unistd.h>
 
 #include <climits>
-#include <cstring>
-#include <string>
-
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <memory>
+#include <string>
 #include <utility>
 #include <vector>
 
