@@ -3,28 +3,18 @@
 #include <cmath>
 
 #include "core/pecas.h"
+#include "machine/forte.h"
 
 namespace corvina {
 
 namespace {
 
-// The search's best, and the best of the rest; the level may keep to its look-ahead when the
-// search is unsure, the hint tells what the search found.
-struct Melhores {
-    Chance primeira;
-    std::optional<Chance> segunda;
-};
-
-Melhores melhores(const Pesagem& p) {
-    Melhores m{p.chances.front(), std::nullopt};
-    if (p.chances.size() > 1) m.segunda = p.chances[1];
-    return m;
-}
-
-std::string chances(const Melhores& m, const std::string& daSegunda) {
-    if (!m.segunda) return "";
-    return " (ganha " + percentual(m.primeira.ganha) + " das vezes; " + daSegunda + ", " +
-           percentual(m.segunda->ganha) + ")";
+// How often a move won in the worlds the search played; nothing where it was not weighed.
+std::string comAChance(const Pesagem& p, int16 casa) {
+    if (p.mundos == 0) return "";
+    for (const Chance& c : p.chances)
+        if (c.casa == casa) return " (ganha " + percentual(c.ganha) + " das vezes)";
+    return "";
 }
 
 } // namespace
@@ -47,37 +37,31 @@ std::string percentual(double ganha) {
     return std::to_string(static_cast<int>(std::lround(ganha * 100))) + "%";
 }
 
+// The hint plays as the strongest level does, and tells that move's share of the worlds the
+// search played: a hint never advises less than Forte would do.
 Dica dicaDaVisao(const VisaoDoNivel& v, const Orcamento& orcamento) {
     Dica d;
+    Forte forte;
     if (v.mao.size() == kCartasNaMao) {
-        const Pesagem p = pesaCompra(v, orcamento);
-        if (p.chances.empty()) return {};
-        const Melhores m = melhores(p);
-        if (v.topo && m.primeira.casa == 0) {
+        if (v.topo && forte.pegaDescarte(v)) {
             d.tipo = Dica::Tipo::Descarte;
             d.texto = "Dica: pegue " + nomeDaCartaComArtigo(*v.topo) + " do descarte" +
-                      chances(m, "do baralho");
+                      comAChance(pesaCompra(v, orcamento), 0);
         } else {
             d.tipo = Dica::Tipo::Baralho;
-            d.texto = "Dica: pegue uma carta do baralho" + chances(m, "do descarte");
+            d.texto = "Dica: pegue uma carta do baralho" +
+                      (v.topo ? comAChance(pesaCompra(v, orcamento), kCasaCompra) : "");
         }
     } else if (v.mao.size() == kCasaCompra) {
-        const Pesagem p = pesaDescartes(v, orcamento);
-        if (p.chances.empty()) return {};
-        const Melhores m = melhores(p);
-        d.casa = m.primeira.casa;
+        d.casa = forte.descarte(v, false);
         if (d.casa < 1 || d.casa > kCasaCompra) return {};
         d.tipo = Dica::Tipo::Carta;
-        const std::string carta = nomeDaCartaComArtigo(v.mao[static_cast<std::size_t>(d.casa - 1)]);
-        if (p.mundos == 0) {
-            d.texto = "Dica: descarte " + carta + " e vença a mão";
-        } else {
-            const std::string outra =
-                m.segunda
-                    ? nomeDaCartaComArtigo(v.mao[static_cast<std::size_t>(m.segunda->casa - 1)])
-                    : "";
-            d.texto = "Dica: descarte " + carta + chances(m, outra);
-        }
+        const Pesagem p = pesaDescartes(v, orcamento);
+        // No worlds were needed: the throw ends the hand at once.
+        const bool vence = p.mundos == 0 && !p.chances.empty() && p.chances.front().casa == d.casa;
+        d.texto = "Dica: descarte " +
+                  nomeDaCartaComArtigo(v.mao[static_cast<std::size_t>(d.casa - 1)]) +
+                  (vence ? " e vença a mão" : comAChance(p, d.casa));
     }
     return d;
 }

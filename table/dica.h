@@ -1,6 +1,6 @@
 #pragma once
-// The hint: the search's best move for the player's own turn, told with how often it wins and
-// how often the next best does, and marked; never made.
+// The hint: Forte's move for the player's own turn, told with how often it won in the worlds the
+// search played, and marked; never made.
 
 #include <string>
 
@@ -22,8 +22,8 @@ struct Dica {
 // The hint's budget: it answers well inside a fifth of a second.
 inline constexpr double kMsDaDica = 150;
 
-// The best move on the player's view: nine cards, where to draw; ten, what to throw. Reads only
-// the copy it is given.
+// The move on the player's view: nine cards, where to draw; ten, what to throw. Reads only the
+// copy it is given.
 Dica dicaDaVisao(const VisaoDoNivel& visao, const Orcamento& orcamento);
 
 // "61%": a share of wins as the player reads it.
