@@ -25,6 +25,7 @@ ArquivoLido leArquivoRegular(const std::string& caminho, std::size_t limite) {
         lido.situacao = SituacaoDoArquivo::NaoRegular;
         return lido;
     }
+    lido.identidade = {st.st_dev, st.st_ino, st.st_size, st.st_mtim};
     if (static_cast<std::size_t>(st.st_size) > limite) {
         lido.situacao = SituacaoDoArquivo::Grande;
         return lido;

@@ -12,6 +12,7 @@
 #include <thread>
 #include <unistd.h>
 
+#include "arquivos/arquivo_regular.h"
 #include "arquivos/descritor.h"
 #include "core/ajustes.h"
 #include "players/dobra_nome.h"
@@ -83,11 +84,6 @@ bool escreveTudo(int fd, const std::string& texto) {
 
 } // namespace
 
-bool ArquivoDeAjustes::Identidade::operator==(const Identidade& o) const {
-    return dispositivo == o.dispositivo && inode == o.inode && tamanho == o.tamanho &&
-           modificado.tv_sec == o.modificado.tv_sec && modificado.tv_nsec == o.modificado.tv_nsec;
-}
-
 ArquivoDeAjustes::ArquivoDeAjustes(std::string arquivo) : arquivo_(std::move(arquivo)) {
     Identidade id;
     switch (leDoDisco(alvo(), valores_, id)) {
@@ -126,27 +122,23 @@ std::string ArquivoDeAjustes::alvo() const {
 
 ArquivoDeAjustes::Leitura ArquivoDeAjustes::leDoDisco(const std::string& alvo, ValoresIni& valores,
                                                       Identidade& id) const {
-    // Without waiting: a pipe with no writer can't hold the game up.
-    const Descritor d{::open(alvo.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY)};
-    if (d.fd() < 0) return errno == ENOENT ? Leitura::Ausente : Leitura::Ilegivel;
-    struct stat st {};
-    if (::fstat(d.fd(), &st) != 0) return Leitura::Ilegivel;
-    if (!S_ISREG(st.st_mode)) return Leitura::NaoRegular;
-    id = {st.st_dev, st.st_ino, st.st_size, st.st_mtim};
-    if (static_cast<std::size_t>(st.st_size) > kMaiorArquivoDeAjustes) return Leitura::Danificada;
-    std::string texto;
-    char buf[16384];
-    for (;;) {
-        const ssize_t n = ::read(d.fd(), buf, sizeof buf);
-        if (n < 0 && errno == EINTR) continue;
-        if (n < 0) return Leitura::Ilegivel;
-        if (n == 0) break;
-        texto.append(buf, static_cast<std::size_t>(n));
-        if (texto.size() > kMaiorArquivoDeAjustes) return Leitura::Danificada;
+    const ArquivoLido lido = leArquivoRegular(alvo, kMaiorArquivoDeAjustes);
+    switch (lido.situacao) {
+    case SituacaoDoArquivo::Ausente:
+        return Leitura::Ausente;
+    case SituacaoDoArquivo::NaoRegular:
+        return Leitura::NaoRegular;
+    case SituacaoDoArquivo::Ilegivel:
+        return Leitura::Ilegivel;
+    case SituacaoDoArquivo::Grande:
+        return Leitura::Danificada;
+    case SituacaoDoArquivo::Lido:
+        break;
     }
-    if (!pareceIni(texto)) return Leitura::Danificada;
+    if (!pareceIni(lido.conteudo)) return Leitura::Danificada;
+    id = lido.identidade;
     valores.clear();
-    for (auto& [chave, valor] : leIni(texto))
+    for (auto& [chave, valor] : leIni(lido.conteudo))
         if (!valor.empty()) valores[chaveCanonica(chave)] = std::move(valor);
     return Leitura::Lida;
 }
@@ -184,7 +176,8 @@ bool ArquivoDeAjustes::escreve() {
     const std::string destino = alvo();
     const Trava trava(destino);
     struct stat st {};
-    if (::stat(destino.c_str(), &st) == 0 && !S_ISREG(st.st_mode)) {
+    const bool existe = ::stat(destino.c_str(), &st) == 0;
+    if (existe && !S_ISREG(st.st_mode)) {
         // A pipe or a device put at its name would hold the writing up for ever.
         std::fprintf(stderr,
                      "corvina: %s is no longer a regular file; settings last for this run only\n",
@@ -192,7 +185,6 @@ bool ArquivoDeAjustes::escreve() {
         persistente_ = false;
         return true;
     }
-    const bool existe = ::stat(destino.c_str(), &st) == 0;
     if (existe &&
         (!lida_ || !(*lida_ == Identidade{st.st_dev, st.st_ino, st.st_size, st.st_mtim}))) {
         // Changed under the game: what the other hand wrote stays, our changes go over it.

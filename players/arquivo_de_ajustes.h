@@ -5,16 +5,15 @@
 // full disk or a write that the reader would refuse.
 
 #include <cstddef>
-#include <ctime>
 #include <functional>
 #include <map>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <sys/types.h>
 #include <utility>
 #include <vector>
 
+#include "arquivos/arquivo_regular.h"
 #include "core/armazem.h"
 #include "players/ini.h"
 
@@ -55,13 +54,7 @@ class ArquivoDeAjustes : public Armazem {
     valoresDosJogadores(std::string_view nome) const;
 
   private:
-    struct Identidade {
-        dev_t dispositivo = 0;
-        ino_t inode = 0;
-        off_t tamanho = -1;
-        timespec modificado{};
-        bool operator==(const Identidade& o) const;
-    };
+    using Identidade = IdentidadeDoArquivo;
     enum class Leitura { Ausente, Lida, NaoRegular, Danificada, Ilegivel };
 
     Leitura leDoDisco(const std::string& alvo, ValoresIni& valores, Identidade& id) const;
