@@ -14,7 +14,6 @@ inline constexpr int kCasasBaralho = 106; // positions 0..105; the shuffle fills
 inline constexpr int16 kCartasNaMao = 9;
 inline constexpr int16 kCasaCompra = 10;    // the slot a drawn card lands in
 inline constexpr int16 kCartasNoMonte = 86; // 104 less two hands of nine
-inline constexpr int16 kNenhumaDestacada = 11;
 
 using Casas = std::array<int16, kCasasMao>;
 
@@ -34,16 +33,7 @@ struct Mesa {
     Casas auxNaipeMac{}, auxValorMac{};
     int16 modoOrdem = 0;
     int16 ordemAuto = 0;
-    int16 yMao = 0;
-    int16 xOrigem = 0;
-    int16 cartaAtual = 0;
-    int16 cartaOrigem = 0;
     bool animando = false;
-    int16 destacada = 0;
-    int16 botaoAtivo = 0;
-    int16 arrastando = 0;
-    float mouseX = 0, mouseY = 0;
-    int16 slotSob = 0;
     bool mostraContagem = false;
     bool jaAtivada = false;
 };

@@ -156,7 +156,7 @@ QRect retanguloDaPeca(const Cena& cena, Peca peca) {
 void pintaMesa(QPainter& p, const QuadroDaMesa& q) {
     p.setRenderHint(QPainter::SmoothPixmapTransform, true);
     p.drawPixmap(0, 0, q.imagens.mesa());
-    const int aceso = q.jogo.mesa.botaoAtivo;
+    const int aceso = q.cena.gesto.botaoAtivo;
     if (aceso >= 1 && aceso <= lugar::kBotoesAcesos)
         p.drawPixmap(lugar::kBotoes[aceso - 1].topLeft(), q.imagens.botaoAceso(aceso));
     pintaNivelEDica(p, q);

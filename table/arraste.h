@@ -17,7 +17,7 @@ bool ficaNaMao(int16 cartaAtual, int16 cartaOrigem, int16 qtdJog, float top, flo
 
 void cj_MouseMove(Jogo& jogo, VistaDeCena& vista, int16 index);
 // X, Y: the mouse in twips inside the sprite.
-void Picmover_MouseDown(Jogo& jogo, VistaDeCena& vista, int16 button, float x, float y);
+void Picmover_MouseDown(VistaDeCena& vista, int16 button, float x, float y);
 void Picmover_MouseMove(Jogo& jogo, VistaDeCena& vista, int16 button, float x, float y);
 // The drop: the card flies home, or is refused before a draw, or goes to the pile and the
 // machine plays.

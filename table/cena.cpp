@@ -17,6 +17,7 @@ inline constexpr float kDegrau = 30;
 } // namespace
 
 Cena::Cena() {
+    gesto.yMao = static_cast<int16>(kTopoJogador);
     for (int i = 1; i <= 10; ++i) {
         Sprite& m = cm_[i];
         m.Left = i == 10 ? kEsquerdaCasa10Maquina : kEsquerdaMaquina + kPassoDaFila * (i - 1);

@@ -8,6 +8,7 @@
 
 #include "core/textos.h"
 #include "core/vista_mesa.h"
+#include "table/gesto.h"
 
 namespace corvina {
 
@@ -66,6 +67,7 @@ class Cena {
     Textos textos;
     // The player's card the keys act on, slot 1..; 0 while the keys have not chosen one.
     int16 foco = 0;
+    Gesto gesto;
 
   private:
     std::array<Sprite, 11> cj_{}, cm_{};

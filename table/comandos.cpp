@@ -16,8 +16,6 @@ inline constexpr const char* kFechar = "Deseja fechar o Corvina?";
 void Form_Load(Jogo& jogo) {
     VistaMesa& v = jogo.vista;
     jogo.mesa.mostraContagem = false;
-    jogo.mesa.yMao = static_cast<int16>(v.lugar(peca::cj(1)).top);
-    jogo.mesa.destacada = kNenhumaDestacada;
     leConfig(jogo); // the back comes out of it within 1..8
     v.copiaFigura(peca::kCostas, {Parte::tipotC, jogo.modulo.tipoCarta});
     for (int i = 0; i < 5; ++i) {

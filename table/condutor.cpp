@@ -38,7 +38,7 @@ Recusa Condutor::verifica(const Jogada& c) const {
         pode = clicavel(peca::kLabel4);
         break;
     case Acao::Soltar:
-        return m.arrastando == 1 ? Recusa::Nenhuma : Recusa::SemArraste;
+        return cena.gesto.arrastando == 1 ? Recusa::Nenhuma : Recusa::SemArraste;
     }
     return pode ? Recusa::Nenhuma : Recusa::Fechada;
 }
@@ -90,6 +90,7 @@ Tarefa<> Condutor::conduz(Jogada c) {
 
 Tarefa<> Condutor::descartaDaFila(int16 casa) {
     Mesa& m = jogo_.mesa;
+    Gesto& g = vista_.cena().gesto;
     if (m.qtdJog < kCasaCompra) {
         // As a card dropped on the pile before the draw.
         if (jogo_.modulo.tocarSom) vista_.tocaSom(som::kNegado, false);
@@ -104,14 +105,15 @@ Tarefa<> Condutor::descartaDaFila(int16 casa) {
     mover.Top = carta.Top;
     vista_.mostraPeca(peca::kPicmover, true);
     vista_.mostraPeca(peca::cj(casa), false);
-    m.cartaAtual = casa;
-    m.slotSob = 0;
+    g.cartaAtual = casa;
+    g.slotSob = 0;
     vista_.escondeAviso();
     co_await descartaJog(jogo_, casa);
 }
 
 void Condutor::move(int16 de, int16 para) {
     Mesa& m = jogo_.mesa;
+    Gesto& g = vista_.cena().gesto;
     const Carta levada = cartaNa(m.jogValor, m.jogNaipe, de);
     const int passo = de < para ? 1 : -1;
     for (int j = de; j != para; j += passo)
@@ -128,9 +130,9 @@ void Condutor::move(int16 de, int16 para) {
     };
     int16& foco = vista_.cena().foco;
     foco = segue(foco);
-    m.cartaAtual = segue(m.cartaAtual);
-    if (m.destacada >= 1 && m.destacada <= m.qtdJog && jogo_.modulo.animarCartas)
-        vista_.destaca(segue(m.destacada));
+    g.cartaAtual = segue(g.cartaAtual);
+    if (g.destacada >= 1 && g.destacada <= m.qtdJog && jogo_.modulo.animarCartas)
+        vista_.destaca(segue(g.destacada));
     assentaAtencao(jogo_, vista_);
 }
 
@@ -141,7 +143,7 @@ Recusa Condutor::pega(float x, float y) {
     }
     dicaEmCurso_.reset();
     vista_.cena().foco = 0; // the mouse takes over from the keys
-    Picmover_MouseDown(jogo_, vista_, kBotaoEsquerdo, x, y);
+    Picmover_MouseDown(vista_, kBotaoEsquerdo, x, y);
     avisa();
     return Recusa::Nenhuma;
 }
@@ -164,13 +166,13 @@ void Condutor::sobre(int16 casa) {
 }
 
 void Condutor::largaArraste() {
-    Mesa& m = jogo_.mesa;
-    if (m.arrastando != 1) return;
-    m.arrastando = 0;
-    m.slotSob = 0;
-    m.destacada = kNenhumaDestacada;
-    vista_.apresentacartasdojog(m.cartaAtual, m.cartaAtual);
-    vista_.mostraPeca(peca::cj(m.cartaAtual), true);
+    Gesto& g = vista_.cena().gesto;
+    if (g.arrastando != 1) return;
+    g.arrastando = 0;
+    g.slotSob = 0;
+    g.destacada = kNenhumaDestacada;
+    vista_.apresentacartasdojog(g.cartaAtual, g.cartaAtual);
+    vista_.mostraPeca(peca::cj(g.cartaAtual), true);
     vista_.mostraPeca(peca::kPicmover, false);
 }
 

@@ -25,7 +25,7 @@ class Condutor {
     // machine's hand at play.
     bool ocupado() const { return emJogada() || jogo_.mesa.animando || jogo_.maosEmJogo; }
     // The mouse holds a card.
-    bool arrastando() const { return jogo_.mesa.arrastando == 1; }
+    bool arrastando() const { return vista_.cena().gesto.arrastando == 1; }
 
     Recusa verifica(const Jogada& c) const;
     // Plays the command, or refuses it with the sound of a refused move.

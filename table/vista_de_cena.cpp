@@ -48,11 +48,12 @@ void VistaDeCena::apresentacartasdamac(int16 most, int16 mostraesta) {
 
 void VistaDeCena::destaca(int16 index) {
     Mesa& m = jogo_->mesa;
+    Gesto& g = cena_.gesto;
     if (m.qtdJog != kCasaCompra) return; // a hand of nine never rises
-    m.destacada = index;
+    g.destacada = index;
     for (int i = 1; i <= kCasaCompra; ++i) {
         Sprite& s = cena_[{Parte::cj, static_cast<int16>(i)}];
-        const float topo = i == index ? m.yMao - kDestaque : m.yMao;
+        const float topo = i == index ? g.yMao - kDestaque : g.yMao;
         if (s.Top != topo) s.Top = topo;
     }
     mudou();
@@ -82,9 +83,9 @@ void VistaDeCena::Habilita(bool h) {
 }
 
 void VistaDeCena::Premover(int16 index) {
-    Mesa& m = jogo_->mesa;
-    if (index == m.botaoAtivo) return;
-    m.botaoAtivo = index; // 0 and 7 light none of the six
+    Gesto& g = cena_.gesto;
+    if (index == g.botaoAtivo) return;
+    g.botaoAtivo = index; // 0 and 7 light none of the six
     mudou();
 }
 

@@ -48,8 +48,6 @@ struct MesaDeCena {
         vista.liga(jogo);
         jogo.modulo.velocidade = 6;
         jogo.modulo.animarCartas = true;
-        jogo.mesa.yMao = 4950;
-        jogo.mesa.destacada = 11;
     }
     // Both hands, the top of the pile and the stock (its last card drawn first), painted.
     void arma(std::string_view jog, std::string_view mac, std::string_view topo = "9/4",

@@ -37,11 +37,12 @@ TEST(MesaNaTela, TheKeysWalkTheRowAndCarryTheCardInFocus) {
     EXPECT_EQ(t.vista.cena().foco, 9) << "left of the first is the last";
 
     // With ten cards the card in focus stands raised, and stays so as the keys carry it.
+    const int16 yMao = t.vista.cena().gesto.yMao;
     t.tecla(Qt::Key_B);
     t.tecla(Qt::Key_Home);
     t.tecla(Qt::Key_Right, Qt::ShiftModifier);
-    EXPECT_LT(t.vista.cena()[peca::cj(2)].Top, m.yMao);
-    EXPECT_EQ(t.vista.cena()[peca::cj(1)].Top, m.yMao);
+    EXPECT_LT(t.vista.cena()[peca::cj(2)].Top, yMao);
+    EXPECT_EQ(t.vista.cena()[peca::cj(1)].Top, yMao);
 
     // A screen reader moves the card beside it over it: the focus and the raise stay on the
     // card they were on.
@@ -49,14 +50,14 @@ TEST(MesaNaTela, TheKeysWalkTheRowAndCarryTheCardInFocus) {
     QAccessible::queryAccessibleInterface(&t.janela)->child(0)->actionInterface()->doAction(
         "mover para a direita");
     EXPECT_EQ(t.vista.cena().foco, 1);
-    EXPECT_LT(t.vista.cena()[peca::cj(1)].Top, m.yMao);
-    EXPECT_EQ(t.vista.cena()[peca::cj(2)].Top, m.yMao);
+    EXPECT_LT(t.vista.cena()[peca::cj(1)].Top, yMao);
+    EXPECT_EQ(t.vista.cena()[peca::cj(2)].Top, yMao);
     EXPECT_EQ(cartaNa(m.jogValor, m.jogNaipe, 1), emFoco);
 
     // The pointer over another card takes the choice over: one card raised, the one Enter throws.
     t.move(t.janela.retanguloDa(peca::cj(4)).center());
     for (int casa = 1; casa <= m.qtdJog; ++casa)
-        EXPECT_EQ(t.vista.cena()[peca::cj(casa)].Top < m.yMao, casa == 4) << casa;
+        EXPECT_EQ(t.vista.cena()[peca::cj(casa)].Top < yMao, casa == 4) << casa;
     EXPECT_EQ(t.vista.cena().foco, 4);
     const Carta apontada = cartaNa(m.jogValor, m.jogNaipe, 4);
     t.tecla(Qt::Key_Return);
@@ -237,7 +238,7 @@ TEST(MesaNaTela, TheCountAndTheToolbarsLightAnswerTheRealKeysAndMouse) {
     QImage antes = t.janela.grab().toImage();
     for (const auto& p : passos) {
         t.move(p.ponto);
-        EXPECT_EQ(t.jogo.mesa.botaoAtivo, p.aceso) << p.ponto.x();
+        EXPECT_EQ(t.vista.cena().gesto.botaoAtivo, p.aceso) << p.ponto.x();
         const QImage agora = t.janela.grab().toImage();
         EXPECT_NE(agora, antes) << "the light moved on the picture";
         antes = agora;
@@ -288,9 +289,9 @@ TEST(MesaNaTela, ANewMatchWithTenCardsInHandDealsNineAgain) {
     t.move(sobre);
     t.envia(QEvent::MouseButtonPress, sobre, Qt::LeftButton, Qt::LeftButton);
     t.move(sobre + QPoint(40, 0), Qt::LeftButton);
-    ASSERT_EQ(t.jogo.mesa.arrastando, 1);
+    ASSERT_EQ(t.vista.cena().gesto.arrastando, 1);
     t.tecla(Qt::Key_F3);
-    EXPECT_EQ(t.jogo.mesa.arrastando, 0);
+    EXPECT_EQ(t.vista.cena().gesto.arrastando, 0);
     EXPECT_EQ(t.jogo.mesa.qtdJog, 9);
     EXPECT_EQ(t.jogo.modulo.pontosMac, 0);
     EXPECT_FALSE(t.vista.cena()[peca::cj(10)].Visible) << "no tenth card left on the table";

@@ -78,6 +78,7 @@ struct MesaViva : ComNivelLento, MesaNaTela {
     }
 
     Mesa& m() { return jogo.mesa; }
+    const Gesto& gesto() const { return vista.cena().gesto; }
     const Cena& cena() const { return vista.cena(); }
     bool livre() { return !janela.condutor().ocupado() && !m().animando && !jogo.maosEmJogo; }
     Figura face(int casa) { return figuraDaFace(m().jogNaipe[casa], m().jogValor[casa]); }
@@ -108,7 +109,7 @@ struct MesaViva : ComNivelLento, MesaNaTela {
             const Sprite& s = cena()[*it];
             if (!s.Visible || !janela.retanguloDa(*it).contains(ponteiro)) continue;
             const bool daFila = it->parte == Parte::cj || *it == peca::kPicmover;
-            if (daFila && s.Top < m().yMao) return s.Picture;
+            if (daFila && s.Top < gesto().yMao) return s.Picture;
             return std::nullopt;
         }
         return std::nullopt;
@@ -122,7 +123,7 @@ struct MesaViva : ComNivelLento, MesaNaTela {
         mouse(QEvent::MouseButtonPress, Qt::LeftButton);
     }
     void solta() {
-        if (m().arrastando == 1 && livre()) pretendida = cena()[peca::kPicmover].Picture;
+        if (gesto().arrastando == 1 && livre()) pretendida = cena()[peca::kPicmover].Picture;
         apertado = false;
         mouse(QEvent::MouseButtonRelease, Qt::LeftButton);
     }
@@ -265,7 +266,7 @@ struct MesaViva : ComNivelLento, MesaNaTela {
     // --- what is checked
     void confere() {
         confereDescartes();
-        if (m().arrastando == 1 && livre()) return confereArraste();
+        if (gesto().arrastando == 1 && livre()) return confereArraste();
         if (livre()) confereFila();
         if (const auto d = janela.dicaAtual(); d && d->tipo == Dica::Tipo::Carta) {
             ASSERT_TRUE(d->casa >= 1 && d->casa <= m().qtdJog);
@@ -286,8 +287,8 @@ struct MesaViva : ComNivelLento, MesaNaTela {
         ASSERT_TRUE(cena().foco >= 0 && cena().foco <= q);
         const Sprite& mover = cena()[peca::kPicmover];
         if (!mover.Visible) return;
-        ASSERT_TRUE(m().cartaAtual >= 1 && m().cartaAtual <= q) << m().cartaAtual;
-        const Sprite& sob = cena()[peca::cj(m().cartaAtual)];
+        ASSERT_TRUE(gesto().cartaAtual >= 1 && gesto().cartaAtual <= q) << gesto().cartaAtual;
+        const Sprite& sob = cena()[peca::cj(gesto().cartaAtual)];
         ASSERT_EQ(mover.Picture, sob.Picture) << "the moving sprite shows a card twice";
         ASSERT_TRUE(mover.Left == sob.Left && mover.Top == sob.Top)
             << "the moving sprite stands off its card";
@@ -295,7 +296,7 @@ struct MesaViva : ComNivelLento, MesaNaTela {
     void confereArraste() {
         const Sprite& mover = cena()[peca::kPicmover];
         ASSERT_TRUE(mover.Visible);
-        ASSERT_EQ(mover.Picture, face(m().cartaAtual)) << "the card in the hand is another";
+        ASSERT_EQ(mover.Picture, face(gesto().cartaAtual)) << "the card in the hand is another";
         // Always where it lies over a text of the felt; elsewhere now and then (a grab is dear).
         const QRect onde = janela.retanguloDa(peca::kPicmover);
         const bool sobreTexto =

@@ -39,7 +39,7 @@ TEST(FaixaDaMao, ThresholdsOfADrop) {
 // Lays the mover on a card and presses on it, grabbing it at (10, 10).
 void pega(MesaDeCena& t, int16 casa) {
     cj_MouseMove(t.jogo, t.vista, casa);
-    Picmover_MouseDown(t.jogo, t.vista, kBotaoEsquerdo, 10, 10);
+    Picmover_MouseDown(t.vista, kBotaoEsquerdo, 10, 10);
 }
 
 // Moves the mover by (dx, dy) twips from where it stands, as the mouse inside it would.
@@ -53,11 +53,11 @@ TEST(Arraste, DraggingLeftShiftsTheCardsBetween) {
     pega(t, 5);
     // From 4575 to 700: past a fifth of a card into slot 2, which stands at 1335.
     arrasta(t, -3875, 0);
-    EXPECT_EQ(t.jogo.mesa.cartaAtual, 2);
+    EXPECT_EQ(t.vista.cena().gesto.cartaAtual, 2);
     EXPECT_EQ(textoDaMao(t.jogo.mesa, Lado::Jog), "2/2 10/2 4/3 6/4 8/1 12/3 1/4 3/1 5/2");
     EXPECT_FALSE(t.sprite({Parte::cj, 2}).Visible) << "the hole is hidden";
     EXPECT_TRUE(t.sprite({Parte::cj, 5}).Visible);
-    EXPECT_EQ(t.jogo.mesa.xOrigem, 255 + 1080);
+    EXPECT_EQ(t.vista.cena().gesto.xOrigem, 255 + 1080);
     ateOFim(Picmover_MouseUp(t.jogo, t.vista, kBotaoEsquerdo));
     EXPECT_EQ(textoDaMao(t.jogo.mesa, Lado::Jog), "2/2 10/2 4/3 6/4 8/1 12/3 1/4 3/1 5/2");
     EXPECT_TRUE(t.vista.mensagens.empty());
@@ -70,9 +70,9 @@ TEST(Arraste, AboveTheBandTheRowRests) {
     t.arma(kNove, kMac);
     pega(t, 5);
     arrasta(t, -3875, -2000);
-    EXPECT_EQ(t.jogo.mesa.cartaAtual, 5);
+    EXPECT_EQ(t.vista.cena().gesto.cartaAtual, 5);
     arrasta(t, 0, 2000); // back into the band: the shift happens where the sprite is now
-    EXPECT_EQ(t.jogo.mesa.cartaAtual, 2);
+    EXPECT_EQ(t.vista.cena().gesto.cartaAtual, 2);
 }
 
 TEST(Arraste, WithNineCardsADropAboveIsRefusedWithTheWarning) {
@@ -147,9 +147,9 @@ TEST(Fileiras, PaintingASlotShowsTheRowAndTheTenthFollowsTheCount) {
     t.jogo.mesa.macete = true;
     t.vista.apresentacartasdamac(8, 0);
     EXPECT_EQ(t.sprite({Parte::cm, 1}).Picture, figuraDaFace(1, 1)) << "hint mode starts at 1";
-    t.jogo.mesa.destacada = 3;
+    t.vista.cena().gesto.destacada = 3;
     t.vista.destaca(5);
-    EXPECT_EQ(t.jogo.mesa.destacada, 3) << "nine cards never rise";
+    EXPECT_EQ(t.vista.cena().gesto.destacada, 3) << "nine cards never rise";
 }
 
 } // namespace
