@@ -12,6 +12,8 @@ void recusaSegundaCompra(VistaMesa& v) {
     v.caixaMensagem(texto::kDevesDescartar, kEstiloInformacao, texto::kMovimentoNaoPermitido);
 }
 
+} // namespace
+
 // Both draws end alike once the card stands face up in slot 10.
 void fechaCompra(Jogo& jogo) {
     VistaMesa& v = jogo.vista;
@@ -24,7 +26,6 @@ void fechaCompra(Jogo& jogo) {
     v.habilitaPeca(peca::kCostas, false);
     v.mostraPrompt(texto::kAgoraDescarte);
 }
-} // namespace
 
 void voltaOrdenarAuto(Jogo& jogo) {
     jogo.mesa.ordemAuto = 0;
@@ -46,6 +47,7 @@ Tarefa<> costas2_Click(Jogo& jogo) {
     if (m.qtdBaralho == 0) {
         v.caixaMensagem(texto::kAcabouBaralhoJog, kEstiloSimples, "");
         v.habilitaPeca(peca::kCostas2, true);
+        jogo.encerraMao(FimDaMao::SemMonte);
         novojogo(jogo); // no winner: the score stands
         co_return;
     }
@@ -65,6 +67,7 @@ Tarefa<> costas2_Click(Jogo& jogo) {
     poeCarta(m.jogValor, m.jogNaipe, kCasaCompra,
              cartaNa(m.baralhoValor, m.baralhoNaipe, m.qtdBaralho));
     --m.qtdBaralho;
+    jogo.registro.toma(Lado::Jog, Origem::Monte, cartaNa(m.jogValor, m.jogNaipe, kCasaCompra));
     fechaCompra(jogo);
     v.habilitaPeca(peca::kCostas2, true); // live, so that a second click meets the refusal
     escreveTrincas(jogo);
@@ -95,6 +98,7 @@ Tarefa<> Discartado_Click(Jogo& jogo) {
     m.jogValor[kCasaCompra] = m.discarteValor;
     m.jogNaipe[kCasaCompra] = m.discarteNaipe;
     jogo.historico.toma(Lado::Jog, cartaNa(m.jogValor, m.jogNaipe, kCasaCompra));
+    jogo.registro.toma(Lado::Jog, Origem::Pilha, cartaNa(m.jogValor, m.jogNaipe, kCasaCompra));
     fechaCompra(jogo);
     escreveTrincas(jogo);
 }

@@ -54,6 +54,7 @@ Tarefa<Descarte> descartaJog(Jogo& jogo, int16 posicao) {
     if (jogo.maosEmJogo || m.qtdJog != kCasaCompra || posicao < 1 || posicao > kCasaCompra)
         co_return Descarte::Recusado;
     MaosEmJogo guarda(jogo);
+    jogo.registro.descarta(Lado::Jog, cartasDe(m.jogValor, m.jogNaipe, m.qtdJog), posicao);
 
     v.Habilita(false);
     voltaOrdenarAuto(jogo);

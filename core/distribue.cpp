@@ -8,6 +8,21 @@ namespace {
 inline constexpr int kInicioMaquina = kCartasNaMao + 1;   // positions 10..18
 inline constexpr int kInicioMonte = 2 * kCartasNaMao + 1; // positions 19..104
 inline constexpr int kPontosQuaseFim = kPontosDaPartida - 1;
+
+// The log of the hand begins with the deal as it stands, the stock's next card first.
+void anotaDistribuicao(Jogo& jogo) {
+    const Mesa& m = jogo.mesa;
+    RegistroDaMao& r = jogo.registro;
+    r = {};
+    r.pontosJog = jogo.modulo.pontosJog;
+    r.pontosMac = jogo.modulo.pontosMac;
+    for (int i = 1; i <= kCartasNaMao; ++i) {
+        r.jog.push_back(cartaNa(m.jogValor, m.jogNaipe, i));
+        r.mac.push_back(cartaNa(m.macValor, m.macNaipe, i));
+    }
+    for (int i = m.qtdBaralho; i >= 1; --i)
+        r.monte.push_back(cartaNa(m.baralhoValor, m.baralhoNaipe, i));
+}
 } // namespace
 
 Embaralhado embaralha(Acaso& acaso) {
@@ -69,6 +84,7 @@ Reparticao reparte(Jogo& jogo, const Embaralhado& ids) {
         m.baralhoNaipe[i - kInicioMonte + 1] = m.baralhoNaipe[i];
     }
     m.qtdBaralho = kCartasNoMonte;
+    anotaDistribuicao(jogo);
     jogo.vista.mostraContagens(TemQuantosGrupos(m, Lado::Jog), TemQuantosGrupos(m, Lado::Mac));
     return r;
 }

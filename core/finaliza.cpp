@@ -38,6 +38,7 @@ void gravaRecorde(VistaMesa& v, const FimDaPartida& fim) {
 void finaliza(Jogo& jogo, Lado quem) {
     VistaMesa& v = jogo.vista;
     Module1& g = jogo.modulo;
+    jogo.encerraMao(quem == Lado::Jog ? FimDaMao::Jog : FimDaMao::Mac);
     AgrupaMac(jogo);
     v.apresentacartasdamac(11, 0);
 
@@ -74,7 +75,7 @@ void finaliza(Jogo& jogo, Lado quem) {
         // Fair is what the deal was: only Clássico may exchange the hands.
         v.partidaTerminada({g.nomeJogador, g.nivel,
                             !trocaNaDistribuicao(g.nivel, g.distribuicaoJusta), venceu, g.pontosJog,
-                            g.pontosMac, novoRecorde(v, g.nomeJogador, venceu)});
+                            g.pontosMac, novoRecorde(v, g.nomeJogador, venceu), jogo.maos});
     }
     v.abreJanela(Janela::FrmPlacar);
     v.processaEventos();
@@ -83,6 +84,7 @@ void finaliza(Jogo& jogo, Lado quem) {
     if (acabou) {
         g.pontosMac = 0;
         g.pontosJog = 0;
+        jogo.maos.clear();
         v.abreJanela(Janela::FrmNome);
     }
     v.mostraMesa(); // the player chosen may use another mode

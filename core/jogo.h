@@ -6,6 +6,7 @@
 #include "core/mesa.h"
 #include "core/module1.h"
 #include "core/nivel.h"
+#include "core/registro_da_mao.h"
 #include "core/vista_mesa.h"
 
 namespace corvina {
@@ -15,7 +16,9 @@ struct Jogo {
 
     Mesa mesa;
     Module1 modulo;
-    Historico historico; // what this hand showed in the open
+    Historico historico;             // what this hand showed in the open
+    RegistroDaMao registro;          // the hand under way, move by move
+    std::vector<RegistroDaMao> maos; // the hands this match has ended
     VistaMesa& vista;
     Acaso& acaso;
     Nivel& nivel; // who plays the machine's seat
@@ -26,6 +29,14 @@ struct Jogo {
     bool cancelarNome = false;
     // Deals in which the machine took the player's better hand: for study, never shown.
     long trocasNaDistribuicao = 0;
+
+    // The hand's log closes with how it ended and joins the match's.
+    void encerraMao(FimDaMao fim) {
+        if (!registro.distribuida()) return;
+        registro.fim = fim;
+        maos.push_back(std::move(registro));
+        registro = {};
+    }
 };
 
 } // namespace corvina

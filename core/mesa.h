@@ -3,6 +3,7 @@
 // of the game counts slots from 1.
 
 #include <array>
+#include <vector>
 
 #include "core/carta.h"
 #include "core/lado.h"
@@ -55,6 +56,13 @@ inline Mao maoDe(Mesa& m, Lado lado) {
 template <std::size_t N>
 Carta cartaNa(const std::array<int16, N>& valor, const std::array<int16, N>& naipe, int casa) {
     return {valor[casa], naipe[casa]};
+}
+
+// Slots 1..qtd as a list.
+inline std::vector<Carta> cartasDe(const Casas& valor, const Casas& naipe, int qtd) {
+    std::vector<Carta> cartas;
+    for (int i = 1; i <= qtd; ++i) cartas.push_back(cartaNa(valor, naipe, i));
+    return cartas;
 }
 
 template <std::size_t N>

@@ -5,6 +5,7 @@
 #include "core/distribue.h"
 #include "core/finaliza.h"
 #include "core/pecas.h"
+#include "core/retomada.h"
 #include "core/textos.h"
 #include "core/trincas.h"
 
@@ -37,10 +38,9 @@ void arrumaPilhas(VistaMesa& v) {
 }
 } // namespace
 
-void novojogo(Jogo& jogo) {
+void arrumaMesa(Jogo& jogo) {
     VistaMesa& v = jogo.vista;
     arrumaPilhas(v);
-    if (jogo.modulo.pontosJog == 0 && jogo.modulo.pontosMac == 0) v.mostraPlacar(0, 0);
     jogo.mesa.macete = false;
     v.ponteiro(peca::kCostas2, Ponteiro::padrao);
     v.ponteiro(peca::kDiscartado, Ponteiro::padrao);
@@ -50,6 +50,14 @@ void novojogo(Jogo& jogo) {
     jogo.modulo.qtdDescarte = 0;
     jogo.historico.limpa();
     voltaOrdenarAuto(jogo); // an order pressed in the last hand means nothing in this one
+}
+
+void novojogo(Jogo& jogo) {
+    VistaMesa& v = jogo.vista;
+    const bool inicio = jogo.modulo.pontosJog == 0 && jogo.modulo.pontosMac == 0;
+    if (inicio && jogo.maos.empty() && ofereceRetomada(jogo)) return;
+    arrumaMesa(jogo);
+    if (inicio) v.mostraPlacar(0, 0);
     distribue(jogo);
     v.apresentacartasdojog(1, jogo.mesa.qtdJog);
     v.apresentacartasdamac(1, 0);

@@ -9,7 +9,11 @@ namespace corvina {
 
 // Clears the table, deals, and gives the player the first move. Never touches the score.
 // A player dealt three trincas wins inside this call, and the next hand is dealt then.
+// At a match's start, the player's kept match comes back instead when they want it.
 void novojogo(Jogo& jogo);
+
+// The table cleared for a hand: the pile empty, the stock squared, nothing in the air.
+void arrumaMesa(Jogo& jogo);
 
 void ApuradeEntrada(Jogo& jogo);
 

@@ -52,6 +52,7 @@ Tarefa<> pegaDoDescarte(Jogo& jogo) {
     m.macValor[kCasaCompra] = m.discarteValor;
     m.macNaipe[kCasaCompra] = m.discarteNaipe;
     jogo.historico.toma(Lado::Mac, cartaNa(m.macValor, m.macNaipe, kCasaCompra));
+    jogo.registro.toma(Lado::Mac, Origem::Pilha, cartaNa(m.macValor, m.macNaipe, kCasaCompra));
     v.apresentacartasdamac(8, 0);
     const int16 carta = co_await escolheDescarte(jogo, true);
     co_await macdiscarta(jogo, carta);
@@ -74,6 +75,7 @@ Tarefa<> compraDoMonte(Jogo& jogo) {
     const Carta comprada = cartaNa(m.baralhoValor, m.baralhoNaipe, m.qtdBaralho);
     poeCarta(m.macValor, m.macNaipe, kCasaCompra, comprada);
     --m.qtdBaralho;
+    jogo.registro.toma(Lado::Mac, Origem::Monte, comprada);
     v.apresentacartasdamac(8, 0);
     const int16 carta = co_await escolheDescarte(jogo, false);
     co_await macdiscarta(jogo, carta);
@@ -91,6 +93,7 @@ Tarefa<FimDaVez> macjoga(Jogo& jogo) {
     if (m.qtdBaralho == 0) {
         v.caixaMensagem(texto::kAcabouBaralhoMac, kEstiloSimples, "");
         v.Habilita(true);
+        jogo.encerraMao(FimDaMao::SemMonte);
         novojogo(jogo);
         co_return FimDaVez::AcabouBaralho;
     }
@@ -120,6 +123,7 @@ Tarefa<> macdiscarta(Jogo& jogo, int16 carta) {
     co_await v.espera(pausa::kDepoisDoDescarteDaMaquina);
 
     // The hand changes only now that the flight is over.
+    jogo.registro.descarta(Lado::Mac, cartasDe(m.macValor, m.macNaipe, m.qtdMac), carta);
     m.discarteValor = m.macValor[carta];
     m.discarteNaipe = m.macNaipe[carta];
     jogo.historico.descarta(Lado::Mac, Carta{m.discarteValor, m.discarteNaipe});

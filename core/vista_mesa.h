@@ -14,6 +14,7 @@
 #include "core/carta.h"
 #include "core/nivel.h"
 #include "core/recorde.h"
+#include "core/registro_da_mao.h"
 #include "core/tarefa.h"
 
 namespace corvina {
@@ -86,7 +87,10 @@ struct FimDaPartida {
     bool venceu = false;
     int maosGanhas = 0, maosPerdidas = 0;
     Recorde recorde; // the player's record with this match, as the store is to hold it
+    std::vector<RegistroDaMao> maos; // the match's hands, move by move
 };
+
+struct PartidaGuardada;
 
 class Pausa;
 template <class T> class Pensamento;
@@ -162,6 +166,14 @@ class VistaMesa {
     // A match ended (a side reached 4 points): the record goes to the store, and wherever the
     // view keeps the history, the match goes there with it, as one.
     virtual void partidaTerminada(const FimDaPartida& fim) { gravaRecorde(*this, fim); }
+    // The match a player left in its middle, when one is kept that can be played on; and
+    // dropped for good (the player began another).
+    virtual bool partidaGuardada(const std::string& nome, PartidaGuardada& partida) {
+        (void)nome;
+        (void)partida;
+        return false;
+    }
+    virtual void esquecePartida(const std::string& nome) { (void)nome; }
 };
 
 // The awaitable of a pause.

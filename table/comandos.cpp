@@ -42,13 +42,16 @@ void novaPartida(Jogo& jogo) {
     VistaMesa& v = jogo.vista;
     jogo.cancelarNome = true;
     v.Premover(0);
+    const std::string quemJogava = jogo.modulo.nomeJogador;
     v.abreJanela(Janela::FrmNome);
     jogo.cancelarNome = false;
     if (jogo.modulo.nomeCancelado) return; // the hand in progress goes on
+    v.esquecePartida(quemJogava);          // given up for a new one: never offered again
     v.mostraTrincas("");
     v.mostraMesa();
     jogo.modulo.pontosJog = 0;
     jogo.modulo.pontosMac = 0;
+    jogo.maos.clear();
     novojogo(jogo);
 }
 

@@ -40,7 +40,7 @@ struct FimDaPartidaTest : testing::Test {
         Recorde r = doArmazem(a);
         (venceu ? r.vitorias : r.derrotas) += 1;
         r.saldo += venceu ? 1 : -1;
-        registraFimDaPartida(a, b, {"Ana", TipoNivel::Forte, true, venceu, 4, 2, r}, dia);
+        registraFimDaPartida(a, b, {"Ana", TipoNivel::Forte, true, venceu, 4, 2, r, {}}, dia);
     }
     // What each place says of Ana's matches after a start: the store's, the history's.
     std::pair<Recorde, Recorde> dosDoisLados() {
