@@ -5,6 +5,7 @@
 #include <sqlite3.h>
 #include <sys/stat.h>
 
+#include "players/comando_sql.h"
 #include "players/dobra_nome.h"
 
 namespace corvina {
@@ -22,43 +23,13 @@ CREATE TABLE IF NOT EXISTS historicos_danificados (
 CREATE TABLE IF NOT EXISTS recordes_pendentes (
   id INTEGER PRIMARY KEY, nome TEXT NOT NULL,
   vitorias INTEGER NOT NULL, derrotas INTEGER NOT NULL, saldo INTEGER NOT NULL);
+CREATE TABLE IF NOT EXISTS partidas_guardadas (jogador TEXT PRIMARY KEY, texto TEXT NOT NULL);
+CREATE TABLE IF NOT EXISTS partidas_postas_de_lado (jogador TEXT PRIMARY KEY, texto BLOB);
+CREATE TABLE IF NOT EXISTS revisoes (
+  id INTEGER PRIMARY KEY, jogador TEXT NOT NULL, dia INTEGER NOT NULL, nivel TEXT NOT NULL,
+  venceu INTEGER NOT NULL, ganhas INTEGER NOT NULL, perdidas INTEGER NOT NULL,
+  maos TEXT NOT NULL);
 )";
-
-// One prepared statement, finalized with its scope.
-class Comando {
-  public:
-    Comando(sqlite3* db, const char* sql) {
-        if (db) sqlite3_prepare_v2(db, sql, -1, &st_, nullptr);
-    }
-    ~Comando() { sqlite3_finalize(st_); }
-    Comando(const Comando&) = delete;
-    Comando& operator=(const Comando&) = delete;
-
-    Comando& texto(int i, std::string_view t) {
-        sqlite3_bind_text(st_, i, t.data(), static_cast<int>(t.size()), SQLITE_TRANSIENT);
-        return *this;
-    }
-    Comando& numero(int i, long n) {
-        sqlite3_bind_int64(st_, i, n);
-        return *this;
-    }
-    bool preparado() const { return st_ != nullptr; }
-    int passo() { return st_ ? sqlite3_step(st_) : SQLITE_ERROR; }
-    bool feito() { return passo() == SQLITE_DONE; }
-    std::string_view textoDa(int c) {
-        const auto* t = reinterpret_cast<const char*>(sqlite3_column_blob(st_, c));
-        return t ? std::string_view(t, static_cast<std::size_t>(sqlite3_column_bytes(st_, c)))
-                 : std::string_view();
-    }
-    long numeroDa(int c) { return static_cast<long>(sqlite3_column_int64(st_, c)); }
-
-  private:
-    sqlite3_stmt* st_ = nullptr;
-};
-
-std::string chaveDoJogador(const std::string& nome) {
-    return dobraNome(nome);
-}
 
 bool contagem(long n) {
     return n >= 0 && n <= kMaiorContagem;
@@ -121,7 +92,11 @@ BancoDoJogo::Abertura BancoDoJogo::abre(const std::string& arquivo) {
     // Tables of the same names but other columns are not ours.
     for (const char* forma : {"SELECT jogador, partidas, antigas FROM historicos",
                               "SELECT jogador, partidas, antigas FROM historicos_danificados",
-                              "SELECT id, nome, vitorias, derrotas, saldo FROM recordes_pendentes"})
+                              "SELECT id, nome, vitorias, derrotas, saldo FROM recordes_pendentes",
+                              "SELECT jogador, texto FROM partidas_guardadas",
+                              "SELECT jogador, texto FROM partidas_postas_de_lado",
+                              "SELECT id, jogador, dia, nivel, venceu, ganhas, perdidas, maos "
+                              "FROM revisoes"})
         if (Comando c(db_, forma); !c.preparado()) {
             desfaz();
             return Abertura::Danificado;
@@ -176,9 +151,9 @@ std::optional<HistoricoDePartidas> BancoDoJogo::leDoBanco(const std::string& cha
 }
 
 HistoricoDePartidas BancoDoJogo::historico(const std::string& nome) {
-    HistoricoDePartidas h = leDoBanco(chaveDoJogador(nome)).value_or(HistoricoDePartidas{});
+    HistoricoDePartidas h = leDoBanco(dobraNome(nome)).value_or(HistoricoDePartidas{});
     for (const PartidaNaFila& f : fila_)
-        if (chaveDoJogador(f.nome) == chaveDoJogador(nome)) h.registra(f.partida);
+        if (dobraNome(f.nome) == dobraNome(nome)) h.registra(f.partida);
     return h;
 }
 
@@ -199,9 +174,8 @@ void BancoDoJogo::zeraHistoricos(const std::vector<std::string>& nomes) {
     }
     bool ok = true;
     for (const std::string& nome : nomes) {
-        const std::string chave = chaveDoJogador(nome);
-        std::erase_if(fila_,
-                      [&](const PartidaNaFila& f) { return chaveDoJogador(f.nome) == chave; });
+        const std::string chave = dobraNome(nome);
+        std::erase_if(fila_, [&](const PartidaNaFila& f) { return dobraNome(f.nome) == chave; });
         for (const char* sql : {"DELETE FROM historicos WHERE jogador = ?",
                                 "DELETE FROM historicos_danificados WHERE jogador = ?"}) {
             Comando apaga(db_, sql);
@@ -215,13 +189,18 @@ void BancoDoJogo::zeraHistoricos(const std::vector<std::string>& nomes) {
 }
 
 long BancoDoJogo::registraPartida(const std::string& nome, const PartidaDoHistorico& p,
-                                  const std::optional<Recorde>& recorde) {
+                                  const std::optional<Recorde>& recorde, std::string_view maos) {
     // Matches waiting from before go first: the history keeps the order they were played in.
     if (salva() && executa("BEGIN IMMEDIATE")) {
-        const std::string chave = chaveDoJogador(nome);
+        const std::string chave = dobraNome(nome);
         HistoricoDePartidas h = leDoBanco(chave).value_or(HistoricoDePartidas{});
         h.registra(p);
         bool ok = gravaHistorico(chave, h);
+        if (ok && !maos.empty()) ok = guardaRevisao(chave, p, maos);
+        if (ok) {
+            Comando tira(db_, "DELETE FROM partidas_guardadas WHERE jogador = ?");
+            ok = tira.texto(1, chave).feito();
+        }
         if (ok && recorde) {
             Comando poe(db_, "INSERT INTO recordes_pendentes (nome, vitorias, derrotas, saldo) "
                              "VALUES (?, ?, ?, ?)");
@@ -243,7 +222,7 @@ long BancoDoJogo::registraPartida(const std::string& nome, const PartidaDoHistor
 bool BancoDoJogo::salva() {
     while (!fila_.empty()) {
         const PartidaNaFila f = fila_.front();
-        const std::string chave = chaveDoJogador(f.nome);
+        const std::string chave = dobraNome(f.nome);
         if (!executa("BEGIN IMMEDIATE")) return falha("history");
         HistoricoDePartidas h = leDoBanco(chave).value_or(HistoricoDePartidas{});
         h.registra(f.partida);
@@ -281,7 +260,7 @@ void BancoDoJogo::concluiPendente(long id) {
 
 bool BancoDoJogo::importaHistorico(const std::string& nome, std::string_view partidas,
                                    std::string_view antigas) {
-    const std::string chave = chaveDoJogador(nome);
+    const std::string chave = dobraNome(nome);
     if (!executa("BEGIN IMMEDIATE")) return falha("import");
     Comando ha(db_, "SELECT 1 FROM historicos WHERE jogador = ?");
     const int tem = ha.texto(1, chave).passo();
@@ -304,7 +283,7 @@ bool BancoDoJogo::importaHistorico(const std::string& nome, std::string_view par
 bool BancoDoJogo::guardaDanificado(const std::string& nome, std::string_view partidas,
                                    std::string_view antigas) {
     Comando guarda(db_, "INSERT OR REPLACE INTO historicos_danificados VALUES (?, ?, ?)");
-    return guarda.texto(1, chaveDoJogador(nome)).texto(2, partidas).texto(3, antigas).feito() ||
+    return guarda.texto(1, dobraNome(nome)).texto(2, partidas).texto(3, antigas).feito() ||
            falha("set aside");
 }
 

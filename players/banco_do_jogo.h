@@ -17,6 +17,17 @@ struct sqlite3;
 
 namespace corvina {
 
+// A finished match as its review reads it: the history's line and every hand, move by move.
+struct RevisaoDePartida {
+    long id = 0;
+    PartidaDoHistorico partida;
+    std::string maos; // the hands' logs, as text
+};
+
+// The reviews kept for each player: the last matches, within a size.
+inline constexpr int kRevisoesPorJogador = 10;
+inline constexpr std::size_t kBytesDeRevisaoPorJogador = 1024 * 1024;
+
 struct RecordePendente {
     long id = 0;
     std::string nome;
@@ -40,8 +51,9 @@ class BancoDoJogo : public Historicos {
     // The match in the player's history and, when given, the record the store is to hold, as
     // pending: one transaction. The id of the pending record, or 0. A match that can't be
     // written is kept for the next chance (salva); nothing is dropped.
+    // The match kept for playing on ends with it, and its hands join the player's reviews.
     long registraPartida(const std::string& nome, const PartidaDoHistorico& p,
-                         const std::optional<Recorde>& recorde);
+                         const std::optional<Recorde>& recorde, std::string_view maos = {});
     std::vector<RecordePendente> pendentes();
     void concluiPendente(long id);
 
@@ -53,6 +65,15 @@ class BancoDoJogo : public Historicos {
     bool guardaDanificado(const std::string& nome, std::string_view partidas,
                           std::string_view antigas);
 
+    // The match a player left in its middle, as text; one per player, replaced at each rest.
+    std::optional<std::string> partidaGuardada(const std::string& nome);
+    bool guardaPartida(const std::string& nome, std::string_view texto);
+    void esquecePartida(const std::string& nome);
+    // A kept match that can't be played on, moved aside for a person (the last one a player's).
+    void poePartidaDeLado(const std::string& nome, std::string_view texto);
+    // The player's last matches with their hands, the newest first.
+    std::vector<RevisaoDePartida> revisoes(const std::string& nome);
+
     // Writes the matches that could not be written before; true when none is left.
     bool salva();
     bool persistente() const { return persistente_; }
@@ -63,6 +84,8 @@ class BancoDoJogo : public Historicos {
     enum class Abertura { Aberto, Danificado, Inacessivel };
     Abertura abre(const std::string& arquivo);
     bool executa(const char* sql);
+    bool guardaRevisao(const std::string& chave, const PartidaDoHistorico& p,
+                       std::string_view maos);
     void desfaz(); // the transaction open, if any
     bool falha(const char* onde);
     bool gravaHistorico(const std::string& chave, const HistoricoDePartidas& h);

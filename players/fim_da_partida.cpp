@@ -1,5 +1,7 @@
 #include "players/fim_da_partida.h"
 
+#include "machine/partida_em_texto.h"
+
 #include <map>
 #include <utility>
 
@@ -61,7 +63,7 @@ void registraFimDaPartida(ArquivoDeAjustes& ajustes, BancoDoJogo& banco, const F
                           int dia) {
     const long pendente = banco.registraPartida(
         fim.nome, {dia, fim.nivel, fim.justa, fim.venceu, fim.maosGanhas, fim.maosPerdidas},
-        fim.recorde);
+        fim.recorde, escreveMaos(fim.maos));
     if (gravaRecorde(ajustes, fim.nome, fim.recorde) && pendente != 0)
         banco.concluiPendente(pendente);
 }

@@ -3,8 +3,8 @@
 #include <filesystem>
 #include <vector>
 
-#include "core/ajustes.h"
 #include "arquivos/arquivo_regular.h"
+#include "core/ajustes.h"
 
 namespace corvina {
 

@@ -66,6 +66,9 @@ JanelaMesa::~JanelaMesa() {
 }
 
 void JanelaMesa::mudou() {
+    // At rest the table waits for the player: what it holds now is kept.
+    if (!condutor_.ocupado() && !condutor_.arrastando() && jogo_.mesa.jaAtivada)
+        vista_.guardaPartida();
     if (jogo_.modulo.tamanhoDaMesa != moldura_.tamanho())
         aplicaTamanho(jogo_.modulo.tamanhoDaMesa); // chosen in the options
     update();

@@ -2,6 +2,9 @@
 
 #include <QDate>
 
+#include "core/partida_guardada.h"
+#include "machine/partida_em_texto.h"
+#include "players/dobra_nome.h"
 #include "players/fim_da_partida.h"
 
 #include <QPointer>
@@ -121,8 +124,41 @@ void VistaQt::mudou() {
 
 void VistaQt::partidaTerminada(const FimDaPartida& fim) {
     const QDate hoje = QDate::currentDate();
+    guardada_.clear(); // the database drops the kept match with the match's end
     registraFimDaPartida(settings_, banco_, fim,
                          diaDoHistorico(hoje.year(), hoje.month(), hoje.day()));
+}
+
+bool VistaQt::partidaGuardada(const std::string& nome, PartidaGuardada& partida) {
+    const auto texto = banco_.partidaGuardada(nome);
+    if (!texto) return false;
+    auto lida = lePartida(*texto);
+    if (!lida || dobraNome(lida->nome) != dobraNome(nome) || !confere(*lida).estado) {
+        banco_.poePartidaDeLado(nome, *texto);
+        return false;
+    }
+    partida = std::move(*lida);
+    guardada_ = *texto;
+    return true;
+}
+
+void VistaQt::esquecePartida(const std::string& nome) {
+    banco_.esquecePartida(nome);
+    guardada_.clear();
+}
+
+void VistaQt::guardaPartida() {
+    const Jogo& j = jogo();
+    const Module1& g = j.modulo;
+    if (g.nomeJogador.empty() || !j.registro.distribuida() || j.maosEmJogo) return;
+    // A match where nothing has been played yet is nothing to come back to.
+    if (g.pontosJog == 0 && g.pontosMac == 0 && j.maos.empty() && j.registro.lances.empty()) {
+        if (!guardada_.empty()) esquecePartida(g.nomeJogador);
+        return;
+    }
+    std::string texto = escrevePartida(guardaDe(j));
+    if (texto == guardada_) return;
+    if (banco_.guardaPartida(g.nomeJogador, texto)) guardada_ = std::move(texto);
 }
 
 } // namespace corvina

@@ -57,6 +57,11 @@ class VistaQt : public VistaDeCena {
     void fechaLote() override { settings_.fechaLote(); }
     // Kept in the player's history, dated today.
     void partidaTerminada(const FimDaPartida& fim) override;
+    // A kept match that can't be played on is set aside here, with a line on stderr.
+    bool partidaGuardada(const std::string& nome, PartidaGuardada& partida) override;
+    void esquecePartida(const std::string& nome) override;
+    // The table waits for the player: the match is kept as it stands, if anything changed.
+    void guardaPartida();
 
   protected:
     void mudou() override;
@@ -71,6 +76,7 @@ class VistaQt : public VistaDeCena {
     bool teste_ = false;
     int pausaDeTeste_ = -1; // none: a test's moves run through without waiting
     Placar placar_;
+    std::string guardada_; // the text last kept, so that a rest that changed nothing writes nothing
     // The one pause under way: the game is one move at a time.
     QTimer relogio_;
     std::coroutine_handle<> pausada_;
