@@ -85,7 +85,10 @@ Tarefa<> Condutor::conduz(Jogada c) {
         break;
     }
     assentaAtencao(jogo_, vista_);
+    // The move is over: its last word is told with the table at rest.
+    fechando_ = true;
     avisa();
+    fechando_ = false;
 }
 
 Tarefa<> Condutor::descartaDaFila(int16 casa) {

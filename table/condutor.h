@@ -54,7 +54,9 @@ class Condutor {
     std::function<void()> aoMudar;
 
   private:
-    bool emJogada() const { return entrando_ || (emCurso_ && !emCurso_->terminou()); }
+    bool emJogada() const {
+        return !fechando_ && (entrando_ || (emCurso_ && !emCurso_->terminou()));
+    }
     Tarefa<> conduz(Jogada c);
     Tarefa<> descartaDaFila(int16 casa);
     Tarefa<> calculaDica();
@@ -67,6 +69,7 @@ class Condutor {
     VistaDeCena& vista_;
     std::optional<Tarefa<>> emCurso_;
     bool entrando_ = false; // a move is being started: it is under way before emCurso_ holds it
+    bool fechando_ = false; // a move tells its end: nothing of it remains to run
     std::optional<Tarefa<>> dicaEmCurso_;
     std::optional<Dica> dica_;
     std::vector<int16> assinaturaDaDica_;
