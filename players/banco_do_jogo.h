@@ -17,13 +17,6 @@ struct sqlite3;
 
 namespace corvina {
 
-// A finished match as its review reads it: the history's line and every hand, move by move.
-struct RevisaoDePartida {
-    long id = 0;
-    PartidaDoHistorico partida;
-    std::string maos; // the hands' logs, as text
-};
-
 // The reviews kept for each player: the last matches, within a size.
 inline constexpr int kRevisoesPorJogador = 10;
 inline constexpr std::size_t kBytesDeRevisaoPorJogador = 1024 * 1024;
@@ -72,7 +65,7 @@ class BancoDoJogo : public Historicos {
     // A kept match that can't be played on, moved aside for a person (the last one a player's).
     void poePartidaDeLado(const std::string& nome, std::string_view texto);
     // The player's last matches with their hands, the newest first.
-    std::vector<RevisaoDePartida> revisoes(const std::string& nome);
+    std::vector<RevisaoDePartida> revisoes(const std::string& nome) override;
 
     // Writes the matches that could not be written before; true when none is left.
     bool salva();

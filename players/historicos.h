@@ -9,6 +9,13 @@
 
 namespace corvina {
 
+// A finished match as its review reads it: the history's line and every hand, move by move.
+struct RevisaoDePartida {
+    long id = 0;
+    PartidaDoHistorico partida;
+    std::string maos; // the hands' logs, as text
+};
+
 class Historicos {
   public:
     virtual ~Historicos() = default;
@@ -17,6 +24,11 @@ class Historicos {
     virtual void apagaHistorico(const std::string& nome) = 0;
     // Every history of these players, at once.
     virtual void zeraHistoricos(const std::vector<std::string>& nomes) = 0;
+    // The player's last matches with their hands, the newest first; none where none are kept.
+    virtual std::vector<RevisaoDePartida> revisoes(const std::string& nome) {
+        (void)nome;
+        return {};
+    }
 };
 
 } // namespace corvina

@@ -6,6 +6,7 @@
 #include "players/qt/frm_opc.h"
 #include "players/qt/frm_placar.h"
 #include "players/qt/frm_records.h"
+#include "players/qt/frm_revisao.h"
 #include "players/qt/frm_tipos.h"
 #include "update/qt/frm_sobre.h"
 
@@ -21,16 +22,26 @@ void JanelasQt::abre(Janela janela, const Placar& placar) {
         FrmNome(dono_, m, armazem_, historicos_, som_, cancelavel).exec();
         break;
     }
-    case Janela::FrmPlacar:
-        FrmPlacar(dono_, m, placar, [this, &m](QWidget* placarAberto) {
-            FrmEstatisticas(placarAberto, m, armazem_, historicos_).exec();
-        }).exec();
+    case Janela::FrmPlacar: {
+        const auto estatisticas = [this, &m](QWidget* placarAberto) {
+            FrmEstatisticas(placarAberto, m, armazem_, historicos_, imagens_).exec();
+        };
+        // This match's hands, the one just ended chosen.
+        std::function<void(QWidget*)> revisao;
+        if (imagens_ && !jogo_.maos.empty())
+            revisao = [this](QWidget* placarAberto) {
+                FrmRevisao(placarAberto, *imagens_, maosDaPartida(jogo_.maos),
+                           jogo_.maos.size() - 1)
+                    .exec();
+            };
+        FrmPlacar(dono_, m, placar, estatisticas, revisao).exec();
         break;
+    }
     case Janela::FrmOpc:
         FrmOpc(dono_, m, armazem_).exec();
         break;
     case Janela::FrmRecords:
-        FrmRecords(dono_, m, armazem_, historicos_, som_).exec();
+        FrmRecords(dono_, m, armazem_, historicos_, som_, imagens_).exec();
         break;
     case Janela::frmtipos:
         FrmTipos(dono_, m, som_).exec();

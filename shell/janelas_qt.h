@@ -6,6 +6,7 @@
 #include "core/armazem.h"
 #include "core/jogo.h"
 #include "midia/audio/som.h"
+#include "midia/imagens.h"
 #include "players/historicos.h"
 #include "update/versao.h"
 
@@ -16,6 +17,8 @@ class JanelasQt {
     JanelasQt(Jogo& jogo, Armazem& armazem, Historicos& historicos, Som* som, Versao versao)
         : jogo_(jogo), armazem_(armazem), historicos_(historicos), som_(som), versao_(versao) {}
     void dono(QWidget* w) { dono_ = w; }
+    // The card pictures the review draws with; without them no review is offered.
+    void imagens(const Imagens* i) { imagens_ = i; }
     // Returns when the window has closed.
     void abre(Janela janela, const Placar& placar);
 
@@ -26,6 +29,7 @@ class JanelasQt {
     Som* som_;
     Versao versao_;
     QWidget* dono_ = nullptr;
+    const Imagens* imagens_ = nullptr;
 };
 
 } // namespace corvina

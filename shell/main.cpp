@@ -79,6 +79,7 @@ struct Programa {
         vista.som(&som);
         vista.janelas(&janelas);
         janelas.dono(&janela);
+        janelas.imagens(&imagens);
         nivel.segue(jogo.modulo);
         // The run ends with the window: no hand in progress is kept, nothing waits.
         janela.aoEncerrar([this] {

@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "players/lista_de_jogadores.h"
+#include "players/qt/frm_revisao.h"
 #include "players/qt/lugar_da_janela.h"
 
 namespace corvina {
@@ -32,9 +33,9 @@ QRect celula(int coluna, int top) {
 } // namespace
 
 FrmEstatisticas::FrmEstatisticas(QWidget* dono, const Module1& modulo, Armazem& armazem,
-                                 Historicos& historicos)
-    : JanelaDeFigura(dono, "frmestatisticas", kTamanho), armazem_(armazem),
-      historicos_(historicos) {
+                                 Historicos& historicos, const Imagens* imagens)
+    : JanelaDeFigura(dono, "frmestatisticas", kTamanho), armazem_(armazem), historicos_(historicos),
+      imagens_(imagens) {
     setObjectName("FrmEstatisticas");
     setWindowTitle("Estatísticas");
     alca(rotulo("Titulo", "", QRect(0, 0, kTamanho.width(), 36)));
@@ -76,6 +77,17 @@ FrmEstatisticas::FrmEstatisticas(QWidget* dono, const Module1& modulo, Armazem& 
     comando("Fechar", "Fechar", QRect(504, 450, 84, 22), [this] {
         accept();
     })->setAlignment(Qt::AlignCenter);
+    if (imagens_) {
+        revisao_ = comando(
+            "Revisao", "<u>Revisão das últimas partidas</u>", QRect(16, 450, 240, 22),
+            [this] {
+                const auto maos =
+                    maosDasRevisoes(historicos_.revisoes(jogador_->currentText().toStdString()));
+                if (!maos.empty()) FrmRevisao(this, *imagens_, maos, 0).exec();
+            },
+            12, false);
+        revisao_->setStyleSheet("color: rgb(240,236,220);");
+    }
     connect(jogador_, &QComboBox::currentTextChanged, this,
             [this](const QString& nome) { mostra(nome.toStdString()); });
     mostra(jogador_->currentText().toStdString());
@@ -87,6 +99,7 @@ void FrmEstatisticas::mostra(const std::string& nome) {
     const HistoricoDePartidas h =
         nome.empty() ? HistoricoDePartidas{} : historicos_.historico(nome);
     const std::vector<LinhaDoQuadro> quadro = quadroDeEstatisticas(h);
+    if (revisao_) revisao_->habilita(!nome.empty() && !historicos_.revisoes(nome).empty());
     for (std::size_t r = 0; r < quadro.size() && r < valores_.size(); ++r)
         for (std::size_t i = 0; i < kColunasDoQuadro; ++i)
             valores_[r][i]->setText(QString::fromStdString(quadro[r].valores[i]));

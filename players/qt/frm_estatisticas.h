@@ -8,6 +8,7 @@
 
 #include "core/armazem.h"
 #include "core/module1.h"
+#include "midia/imagens.h"
 #include "players/historicos.h"
 #include "players/qt/janela_de_figura.h"
 #include "players/quadro_de_estatisticas.h"
@@ -20,7 +21,9 @@ namespace corvina {
 class FrmEstatisticas : public JanelaDeFigura {
   public:
     // Shows the player of the table, or the first of the list.
-    FrmEstatisticas(QWidget* dono, const Module1& modulo, Armazem& armazem, Historicos& historicos);
+    // With `imagens`, the player's last matches can be reviewed hand by hand from here.
+    FrmEstatisticas(QWidget* dono, const Module1& modulo, Armazem& armazem, Historicos& historicos,
+                    const Imagens* imagens = nullptr);
 
     // What the chart tells a screen reader, as it stands.
     QString resumo() const;
@@ -35,6 +38,8 @@ class FrmEstatisticas : public JanelaDeFigura {
     QComboBox* jogador_;
     std::vector<std::array<QLabel*, kColunasDoQuadro>> valores_;
     QChartView* grafico_;
+    const Imagens* imagens_;
+    Comando* revisao_ = nullptr;
 };
 
 } // namespace corvina

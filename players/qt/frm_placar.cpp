@@ -9,7 +9,8 @@
 namespace corvina {
 
 FrmPlacar::FrmPlacar(QWidget* dono, const Module1& modulo, const Placar& placar,
-                     std::function<void(QWidget*)> abreEstatisticas)
+                     std::function<void(QWidget*)> abreEstatisticas,
+                     std::function<void(QWidget*)> abreRevisao)
     : JanelaDeFigura(dono, "frmplacar", {345, 176}) {
     setObjectName("FrmPlacar");
     setMouseTracking(true);
@@ -32,12 +33,17 @@ FrmPlacar::FrmPlacar(QWidget* dono, const Module1& modulo, const Placar& placar,
     // At the end of a match, whether or not it blinks (a match won with the sound off doesn't).
     const bool fimDaPartida =
         placar.pontosJog == kPontosDaPartida || placar.pontosMac == kPontosDaPartida;
-    if (fimDaPartida && abreEstatisticas) {
+    int left = 14;
+    const auto oferece = [this, &left](const char* nome, const char* texto,
+                                       std::function<void(QWidget*)> abre) {
         QLabel* l = comando(
-            "Estatisticas", "<u>Estatísticas</u>", QRect(14, 140, 120, 17),
-            [this, abreEstatisticas] { abreEstatisticas(this); }, 12, false);
+            nome, QString("<u>%1</u>").arg(texto), QRect(left, 140, 116, 17),
+            [this, abre] { abre(this); }, 12, false);
         l->setStyleSheet("color: rgb(240,236,220);");
-    }
+        left += 116;
+    };
+    if (fimDaPartida && abreEstatisticas) oferece("Estatisticas", "Estatísticas", abreEstatisticas);
+    if (abreRevisao) oferece("Revisao", "Revisão da mão", abreRevisao);
     timer1_.setInterval(kPiscaMs);
     connect(&timer1_, &QTimer::timeout, this, [this] { pisca(); });
     if (placar.pisca) timer1_.start();

@@ -12,9 +12,11 @@ namespace corvina {
 
 class FrmPlacar : public JanelaDeFigura {
   public:
-    // `abreEstatisticas`, when given, is offered at the end of a match, beside OK.
+    // `abreEstatisticas`, when given, is offered at the end of a match, beside OK;
+    // `abreRevisao`, when given, after every hand.
     FrmPlacar(QWidget* dono, const Module1& modulo, const Placar& placar,
-              std::function<void(QWidget*)> abreEstatisticas = {});
+              std::function<void(QWidget*)> abreEstatisticas = {},
+              std::function<void(QWidget*)> abreRevisao = {});
     static constexpr int kPiscaMs = 500; // Timer1
 
   protected:

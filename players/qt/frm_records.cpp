@@ -16,9 +16,9 @@ const QColor kBranco(255, 255, 255), kVerde(0, 255, 0);
 }
 
 FrmRecords::FrmRecords(QWidget* dono, const Module1& modulo, Armazem& armazem,
-                       Historicos& historicos, Som* som)
+                       Historicos& historicos, Som* som, const Imagens* imagens)
     : JanelaDeFigura(dono, "frmrecords", {642, 317}), modulo_(modulo), armazem_(armazem),
-      historicos_(historicos), som_(som) {
+      historicos_(historicos), imagens_(imagens), som_(som) {
     setObjectName("FrmRecords");
     setWindowTitle("Hall da Fama");
     for (int r = 0; r < kLinhasDoHall; ++r) {
@@ -48,7 +48,7 @@ FrmRecords::FrmRecords(QWidget* dono, const Module1& modulo, Armazem& armazem,
     })->setAccessibleName("Zerar");
     // Beside the hall: each player's own history.
     comando("Estatisticas", "", QRect(270, 279, 102, 21), [this] {
-        FrmEstatisticas(this, modulo_, armazem_, historicos_).exec();
+        FrmEstatisticas(this, modulo_, armazem_, historicos_, imagens_).exec();
     })->setAccessibleName("Estatísticas");
     monta();
     vigiaTeclas();

@@ -6,6 +6,7 @@
 #include "core/armazem.h"
 #include "core/module1.h"
 #include "midia/audio/som.h"
+#include "midia/imagens.h"
 #include "players/hall_da_fama.h"
 #include "players/historicos.h"
 #include "players/qt/janela_de_figura.h"
@@ -15,7 +16,7 @@ namespace corvina {
 class FrmRecords : public JanelaDeFigura {
   public:
     FrmRecords(QWidget* dono, const Module1& modulo, Armazem& armazem, Historicos& historicos,
-               Som* som);
+               Som* som, const Imagens* imagens = nullptr);
 
   protected:
     void primeiraAtivacao() override;
@@ -29,6 +30,7 @@ class FrmRecords : public JanelaDeFigura {
     const Module1& modulo_;
     Armazem& armazem_;
     Historicos& historicos_;
+    const Imagens* imagens_;
     Som* som_;
     struct Linha {
         QLabel *nome, *vitorias, *derrotas, *saldo;

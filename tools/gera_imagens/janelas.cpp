@@ -143,6 +143,17 @@ QImage janelaEstatisticas() {
     return img;
 }
 
+QImage janelaRevisao() {
+    QImage img = fundo({660, 520}, 36);
+    QPainter p(&img);
+    p.setRenderHint(QPainter::Antialiasing, true);
+    titulo(p, QRect(14, 4, 400, 32), QStringLiteral("Revisão da mão"), 22);
+    caixa(p, QRectF(12, 74, 636, 300));  // the table: both hands, the pile, the stock
+    caixa(p, QRectF(12, 380, 636, 100)); // the move told, Forte's throw beside it
+    botao(p, QRect(564, 488, 84, 22), QStringLiteral("Fechar"));
+    return img;
+}
+
 QImage janelaOpcoes() {
     QImage img = fundo({376, 235}, 36);
     QPainter p(&img);

@@ -20,6 +20,7 @@ QImage janelaSimNao();                                   // FrmSimNao, 400 by 13
 QImage janelaPlacar();                                   // FrmPlacar, 345 by 176
 QImage janelaNivel();                                    // FrmNivel, 380 by 270
 QImage janelaEstatisticas();                             // FrmEstatisticas, 600 by 480
+QImage janelaRevisao();                                  // FrmRevisao, 660 by 520
 QImage janelaSobre(const QImage& verso);                 // FrmSobre's client area, 430 by 189
 
 // The program's icon at a size of `lado` pixels: two cards fanned on the felt, the front one an

@@ -213,6 +213,7 @@ int main(int argc, char** argv) {
             {"frmtipos", janelaTipos(versos)}, {"frmsimnao", janelaSimNao()},
             {"frmplacar", janelaPlacar()},     {"frmsobre", janelaSobre(versos[3])},
             {"frmnivel", janelaNivel()},       {"frmestatisticas", janelaEstatisticas()},
+            {"frmrevisao", janelaRevisao()},
         };
         for (const auto& j : janelas)
             ok &= grava(j.figura, arquivo(QString("janelas/%1").arg(j.nome)));
