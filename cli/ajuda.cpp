@@ -74,6 +74,19 @@ Requests and answers:
          given). A hand past 1,000 turns (seats that only take each other's throws) is
          stopped and counted among noWinner, and as "endless":N
 
+  {"op":"revisa","log":"mao 0 0\njog ...\nfim mac\n"}
+      -> {"throws":[{"move":N,"threw":"v/n","forte":"v/n","same":B},...],"same":S,"of":T}
+         for each of the player's throws in a hand's log (the text the game keeps for a
+         hand, as "partida" exports it), the throw Forte makes from that same view
+  {"op":"partida","kept":"corvina-partida 1\n..."}   or   {"op":"partida","log":"mao ..."}
+      -> {"player":"..","level":L,"fair":B,"score":[J,M],"hands":[H,...],"current":H,
+          "order":[..]}   or   {"hand":H}
+         a kept match (the game's database, table partidas_guardadas) or one hand's log
+         as JSON: H is {"score":[J,M],"jog":[9],"mac":[9],"stock":[86, the next first],
+         "moves":[{"side":"Jog"|"Mac","from":"stock"|"pile","took":"v/n","hand":[10],
+         "slot":S,"threw":"v/n"},...],"end":"jog"|"mac"|"semmonte"|"emjogo"}; the last
+         move may lack its throw
+
 A request that is not valid JSON, names an unknown op, misses a field, or holds a bad card
 or a hand of the wrong size is answered {"error":"..."}, and the next line is read.
 

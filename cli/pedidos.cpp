@@ -5,6 +5,7 @@
 
 #include "cli/json_cartas.h"
 #include "cli/pedidos_da_maquina.h"
+#include "cli/pedidos_de_revisao.h"
 #include "core/agrupa_mac.h"
 #include "core/contagem.h"
 #include "core/distribue.h"
@@ -265,6 +266,8 @@ json atende(const Pedido& p) {
     if (op == "turn") return vez(p);
     if (op == "decide") return decide(p);
     if (op == "arena") return arena(p);
+    if (op == "revisa") return revisa(p);
+    if (op == "partida") return partida(p);
     if (op == "deal") return distribuicao(p);
     if (op == "selfplay") return autojogo(p);
     if (op == "sortButton") return botaoOrdenar(p);

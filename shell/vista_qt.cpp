@@ -4,8 +4,8 @@
 
 #include "core/partida_guardada.h"
 #include "machine/partida_em_texto.h"
-#include "players/dobra_nome.h"
 #include "players/fim_da_partida.h"
+#include "players/partida_para_retomar.h"
 
 #include <QPointer>
 
@@ -130,15 +130,10 @@ void VistaQt::partidaTerminada(const FimDaPartida& fim) {
 }
 
 bool VistaQt::partidaGuardada(const std::string& nome, PartidaGuardada& partida) {
-    const auto texto = banco_.partidaGuardada(nome);
-    if (!texto) return false;
-    auto lida = lePartida(*texto);
-    if (!lida || dobraNome(lida->nome) != dobraNome(nome) || !confere(*lida).estado) {
-        banco_.poePartidaDeLado(nome, *texto);
-        return false;
-    }
+    auto lida = partidaParaRetomar(banco_, nome);
+    if (!lida) return false;
     partida = std::move(*lida);
-    guardada_ = *texto;
+    guardada_ = escrevePartida(partida);
     return true;
 }
 
