@@ -91,11 +91,12 @@ FrmRevisao::FrmRevisao(QWidget* dono, const Imagens& imagens, std::vector<MaoPar
     })->setAlignment(Qt::AlignCenter);
     espera_.setInterval(20);
     connect(&espera_, &QTimer::timeout, this, [this] { recebe(); });
-    if (escolha_)
+    const std::size_t primeira = std::min(inicial, maos_.empty() ? 0 : maos_.size() - 1);
+    if (escolha_) {
+        escolha_->setCurrentIndex(static_cast<int>(primeira));
         connect(escolha_, &QComboBox::currentIndexChanged, this,
                 [this](int i) { escolhe(static_cast<std::size_t>(std::max(i, 0))); });
-    const std::size_t primeira = std::min(inicial, maos_.empty() ? 0 : maos_.size() - 1);
-    if (escolha_) escolha_->setCurrentIndex(static_cast<int>(primeira));
+    }
     escolhe(primeira);
     vigiaTeclas();
     centraNoDono(*this);
@@ -110,7 +111,7 @@ std::size_t FrmRevisao::passos() const {
 }
 
 void FrmRevisao::escolhe(std::size_t mao) {
-    if (mao >= maos_.size() || (mao == mao_ && revisao_ && calculo_.valid())) return;
+    if (mao >= maos_.size()) return;
     if (calculo_.valid()) calculo_.wait();
     mao_ = mao;
     // The moves at once; Forte's throws as soon as the worker has them.

@@ -39,7 +39,7 @@ class FrmRevisao : public JanelaDeFigura {
     std::size_t passo() const { return passo_; }
     std::size_t passos() const;
     // Once Forte's throws are in (tests wait for it).
-    bool pronta() const { return revisao_.has_value(); }
+    bool pronta() const { return !calculo_.valid(); }
 
   protected:
     bool tecla(int key) override;

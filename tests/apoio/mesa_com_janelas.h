@@ -54,6 +54,7 @@ struct Mesa : testing::Test, BaseDaMesa {
         vista.som(&som);
         vista.janelas(&janelas);
         janelas.dono(&janela);
+        janelas.imagens(&imagens);
         teste::janelasEsperadas().clear();
     }
     ~Mesa() override {

@@ -5,6 +5,12 @@
 #include <random>
 
 #include "cli/pedidos.h"
+#include "core/ativacao.h"
+#include "core/compra.h"
+#include "core/descarte.h"
+#include "core/visao_do_nivel.h"
+#include "core/vista_nula.h"
+#include "machine/esperto.h"
 
 namespace corvina::cli {
 namespace {
@@ -185,6 +191,56 @@ TEST(Limites, OversizedRequestsAreRefusedWithTheirReason) {
     // Within the limits, a request far wider than any real one is still read.
     EXPECT_EQ(json::parse(responde(std::string(16, '[') + std::string(16, ']')))["error"],
               "a request is a JSON object");
+}
+
+json comoLista(const std::vector<Carta>& cartas) {
+    json l = json::array();
+    for (const Carta c : cartas) l.push_back(escreveCarta(c));
+    return l;
+}
+
+// Over seeded hands played at random, "revisa" on a hand's log answers for each of the player's
+// throws what "decide" answers for Forte on the view the player had at the table.
+TEST(Revisa, AgreesWithDecideOnTheViewAtTheTable) {
+    AcasoSemente acaso(5);
+    VistaNula vista;
+    Esperto esperto;
+    Jogo jogo(vista, acaso, esperto);
+    jogo.modulo.nomeJogador = "Ana";
+    Form_Activate(jogo);
+    std::mt19937 g(5);
+    std::vector<json> pedidos; // "decide" at each throw of the hand under way
+    std::size_t conferidos = 0;
+    const auto confere = [&] {
+        const json r = json::parse(
+            responde(json{{"op", "revisa"}, {"log", escreveRegistro(jogo.maos.back())}}.dump()));
+        ASSERT_EQ(r["throws"].size(), pedidos.size()) << r;
+        for (std::size_t i = 0; i < pedidos.size(); ++i)
+            EXPECT_EQ(r["throws"][i]["forte"], json::parse(responde(pedidos[i].dump()))["discard"]);
+        conferidos += pedidos.size();
+        pedidos.clear();
+    };
+    while (jogo.maos.size() < 3 && !HasFailure()) {
+        const std::size_t maos = jogo.maos.size();
+        const bool daPilha = jogo.modulo.qtdDescarte > 0 && g() % 3 == 0;
+        ateOFim(daPilha ? Discartado_Click(jogo) : costas2_Click(jogo));
+        if (jogo.maos.size() == maos) {
+            const VisaoDoNivel v = visaoDe(jogo, Lado::Jog);
+            pedidos.push_back({{"op", "decide"},
+                               {"level", "forte"},
+                               {"hand", comoLista(v.mao)},
+                               {"pile", v.topo ? json(escreveCarta(*v.topo)) : json(nullptr)},
+                               {"drew", daPilha ? "pile" : "stock"},
+                               {"discards", comoLista(v.descartes)},
+                               {"opponentTook", comoLista(v.tomadasPeloOutro)},
+                               {"opponentDiscards", comoLista(v.descartesDoOutro)},
+                               {"took", comoLista(v.tomadasProprias)},
+                               {"stock", v.monte}});
+            ateOFim(descartaJog(jogo, static_cast<int16>(g() % kCasaCompra + 1)));
+        }
+        if (jogo.maos.size() != maos) confere();
+    }
+    EXPECT_GT(conferidos, 30U);
 }
 
 } // namespace

@@ -5,6 +5,8 @@
 #include <QComboBox>
 
 #include "apoio/mesa_com_janelas.h"
+#include "machine/autojogador.h"
+#include "players/qt/frm_revisao.h"
 
 namespace corvina {
 namespace {
@@ -87,6 +89,34 @@ TEST_F(Mesa, TheStatisticsShowEachPlayersOwnHistory) {
         QTest::keyClick(w, Qt::Key_Escape);
     });
     tecla(Qt::Key_F5);
+}
+
+// After a hand, the score window opens its review: the keys step through the moves, each told
+// to a screen reader as the window's description, and Forte's verdict comes in from its worker.
+TEST_F(Mesa, TheScoreWindowOpensTheHandsReview) {
+    lista({"Ana"});
+    abre([](QWidget* w) { clica(w, "Label9"); });
+    quandoAbrir("FrmPlacar", [](QWidget* w) {
+        quandoAbrir("FrmRevisao", [](QWidget* r) {
+            auto* revisao = static_cast<FrmRevisao*>(r);
+            EXPECT_EQ(revisao->passo() + 1, revisao->passos()) << "it opens on the hand's end";
+            EXPECT_TRUE(r->accessibleDescription().contains("venceu a mão") ||
+                        r->accessibleDescription().contains("monte acabou"));
+            QTest::keyClick(r, Qt::Key_Home);
+            EXPECT_EQ(revisao->passo(), 0U);
+            EXPECT_TRUE(r->accessibleDescription().startsWith("Distribuição. Suas cartas: "));
+            QTest::keyClick(r, Qt::Key_Right);
+            EXPECT_TRUE(r->accessibleDescription().startsWith("Lance 1 de "));
+            for (int i = 0; i < 500 && !revisao->pronta(); ++i) QTest::qWait(10);
+            EXPECT_TRUE(
+                parte<QLabel>(r, "Resumo")->text().startsWith("Você descartou como o Forte em "));
+            EXPECT_TRUE(r->accessibleDescription().contains("O Forte descartaria"));
+            QTest::keyClick(r, Qt::Key_Escape);
+        });
+        clica(w, "Revisao");
+        QTest::keyClick(w, Qt::Key_Return);
+    });
+    while (jogo.maos.empty()) jogaPeloJogador(jogo);
 }
 
 } // namespace
