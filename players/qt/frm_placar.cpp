@@ -38,7 +38,11 @@ FrmPlacar::FrmPlacar(QWidget* dono, const Module1& modulo, const Placar& placar,
                                        std::function<void(QWidget*)> abre) {
         QLabel* l = comando(
             nome, QString("<u>%1</u>").arg(texto), QRect(left, 140, 116, 17),
-            [this, abre] { abre(this); }, 12, false);
+            [this, abre] {
+                abre(this);
+                activateWindow(); // the keys come back here: Enter still closes the score
+            },
+            12, false);
         l->setStyleSheet("color: rgb(240,236,220);");
         left += 116;
     };
