@@ -20,20 +20,6 @@ RegistroDaMao registroDo(const Pedido& p) {
     return *r;
 }
 
-const char* fimDa(FimDaMao f) {
-    switch (f) {
-    case FimDaMao::Jog:
-        return "jog";
-    case FimDaMao::Mac:
-        return "mac";
-    case FimDaMao::SemMonte:
-        return "semmonte";
-    case FimDaMao::EmJogo:
-        break;
-    }
-    return "emjogo";
-}
-
 json daMao(const RegistroDaMao& r) {
     json lances = json::array();
     for (const Lance& l : r.lances) {
@@ -52,7 +38,7 @@ json daMao(const RegistroDaMao& r) {
             {"mac", paraJson(r.mac)},
             {"stock", paraJson(r.monte)},
             {"moves", std::move(lances)},
-            {"end", fimDa(r.fim)}};
+            {"end", std::string(chaveDoFim(r.fim))}};
 }
 } // namespace
 

@@ -6,8 +6,6 @@
 namespace corvina {
 
 namespace {
-inline constexpr int16 kMaximoAposTirar = 4; // as the table's pile: never more after a take
-
 bool doisBaralhos(const RegistroDaMao& r) {
     std::array<int, kCartasPorBaralho> copias{};
     for (const auto* parte : {&r.jog, &r.mac, &r.monte})
@@ -34,7 +32,6 @@ bool compra(EstadoDaMao& e, const Lance& l) {
         if (!e.topo || *e.topo != l.tomada) return false;
         e.historico.toma(l.lado, l.tomada);
         e.topo.reset();
-        if (--e.qtdDescarte > kMaximoAposTirar) e.qtdDescarte = kMaximoAposTirar;
     }
     mao.push_back(l.tomada);
     return true;
@@ -48,14 +45,13 @@ bool descarta(EstadoDaMao& e, const Lance& l) {
     mao.erase(mao.begin() + (l.casa - 1));
     e.historico.descarta(l.lado, c);
     e.topo = c;
-    ++e.qtdDescarte;
     return true;
 }
 } // namespace
 
 std::optional<EstadoDaMao> reconstroi(const RegistroDaMao& r, std::size_t lances) {
     if (!doisBaralhos(r) || lances > r.lances.size()) return std::nullopt;
-    EstadoDaMao e{r.jog, r.mac, r.monte, std::nullopt, 0, {}};
+    EstadoDaMao e{r.jog, r.mac, r.monte, std::nullopt, {}};
     for (std::size_t i = 0; i < lances; ++i) {
         const Lance& l = r.lances[i];
         // The player opens every hand and the sides take turns; only the last may lack its throw.

@@ -16,7 +16,6 @@ struct EstadoDaMao {
     std::vector<Carta> jog, mac; // slot order
     std::vector<Carta> monte;    // the next card to draw first
     std::optional<Carta> topo;   // the pile's top, while it can be taken
-    int16 qtdDescarte = 0;       // the cards the pile shows, as the table counts them
     Historico historico;
 };
 

@@ -70,6 +70,10 @@ std::optional<Lance> leLance(const std::vector<std::string_view>& p) {
 }
 } // namespace
 
+std::string_view chaveDoFim(FimDaMao fim) {
+    return kFins[static_cast<std::size_t>(fim)];
+}
+
 void RegistroDaMao::descarta(Lado lado, std::vector<Carta> mao, int16 casa) {
     if (lances.empty() || lances.back().lado != lado || lances.back().completo()) return;
     if (mao.size() != kCartasAntesDoDescarte || casa < 1 || casa > static_cast<int16>(mao.size()))
@@ -97,7 +101,7 @@ std::string escreveRegistro(const RegistroDaMao& r) {
         if (l.completo()) t += " " + std::to_string(l.casa) + " " + escreveCartas(l.mao);
         t += "\n";
     }
-    t += "fim " + std::string(kFins[static_cast<std::size_t>(r.fim)]) + "\n";
+    t += "fim " + std::string(chaveDoFim(r.fim)) + "\n";
     return t;
 }
 

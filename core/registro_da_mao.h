@@ -15,6 +15,8 @@ namespace corvina {
 
 enum class Origem { Monte, Pilha };
 enum class FimDaMao { EmJogo, Jog, Mac, SemMonte };
+// How a hand ended, as its log and corvina-cli write it: "emjogo", "jog", "mac", "semmonte".
+std::string_view chaveDoFim(FimDaMao fim);
 
 struct Lance {
     Lado lado = Lado::Jog;

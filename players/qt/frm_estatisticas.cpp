@@ -84,6 +84,7 @@ FrmEstatisticas::FrmEstatisticas(QWidget* dono, const Module1& modulo, Armazem& 
                 const auto maos =
                     maosDasRevisoes(historicos_.revisoes(jogador_->currentText().toStdString()));
                 if (!maos.empty()) FrmRevisao(this, *imagens_, maos, 0).exec();
+                activateWindow(); // the keys come back here
             },
             12, false);
         revisao_->setStyleSheet("color: rgb(240,236,220);");

@@ -49,6 +49,7 @@ FrmRecords::FrmRecords(QWidget* dono, const Module1& modulo, Armazem& armazem,
     // Beside the hall: each player's own history.
     comando("Estatisticas", "", QRect(270, 279, 102, 21), [this] {
         FrmEstatisticas(this, modulo_, armazem_, historicos_, imagens_).exec();
+        activateWindow(); // the keys come back to the hall
     })->setAccessibleName("Estatísticas");
     monta();
     vigiaTeclas();

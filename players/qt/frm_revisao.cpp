@@ -30,7 +30,8 @@ std::vector<MaoParaRever> maosDaPartida(const std::vector<RegistroDaMao>& maos,
         const char* como = fim == FimDaMao::Jog   ? "você venceu"
                            : fim == FimDaMao::Mac ? "a máquina venceu"
                                                   : "o monte acabou";
-        lista.push_back({partida + QString("Mão %1: %2").arg(i + 1).arg(como), maos[i]});
+        const QString mao = partida.isEmpty() ? "Mão %1: %2" : "mão %1: %2";
+        lista.push_back({partida + mao.arg(i + 1).arg(como), maos[i]});
     }
     return lista;
 }
@@ -43,7 +44,7 @@ std::vector<MaoParaRever> maosDasRevisoes(const std::vector<RevisaoDePartida>& r
         if (!maos) continue; // a match whose hands can't be read is passed over
         const PartidaDoHistorico& p = r.partida;
         const QString partida =
-            QString("%1, %2, %3 %4 × %5 · ")
+            QString("%1 · %2 · %3 por %4 × %5 · ")
                 .arg(inicio.addDays(p.dia).toString("dd/MM/yyyy"),
                      QString::fromUtf8(dadosDoNivel(p.nivel).nome.data(),
                                        static_cast<qsizetype>(dadosDoNivel(p.nivel).nome.size())),
@@ -65,11 +66,11 @@ FrmRevisao::FrmRevisao(QWidget* dono, const Imagens& imagens, std::vector<MaoPar
     if (maos_.size() > 1) {
         escolha_ = new QComboBox(this);
         escolha_->setObjectName("Mao");
-        escolha_->setGeometry(300, 44, 348, 24);
+        escolha_->setGeometry(24, 44, 624, 24);
         escolha_->setAccessibleName("Mão");
         for (const MaoParaRever& m : maos_) escolha_->addItem(m.rotulo);
     } else if (!maos_.empty()) {
-        rotulo("Mao", maos_.front().rotulo, QRect(300, 44, 348, 24), 12, true, kClaro,
+        rotulo("Mao", maos_.front().rotulo, QRect(24, 44, 624, 24), 12, true, kClaro,
                Qt::AlignRight | Qt::AlignVCenter);
     }
     rotulo("Maquina", "Máquina", QRect(kFilaLeft, 80, 200, 18), 12, true, kOuro);
