@@ -10,18 +10,18 @@
 namespace corvina {
 
 std::optional<std::string> BancoDoJogo::partidaGuardada(const std::string& nome) {
-    Comando le(db_, "SELECT texto FROM partidas_guardadas WHERE jogador = ?");
+    ComandoSql le(db_, "SELECT texto FROM partidas_guardadas WHERE jogador = ?");
     if (le.texto(1, dobraNome(nome)).passo() != SQLITE_ROW) return std::nullopt;
     return std::string(le.textoDa(0));
 }
 
 bool BancoDoJogo::guardaPartida(const std::string& nome, std::string_view texto) {
-    Comando grava(db_, "INSERT OR REPLACE INTO partidas_guardadas VALUES (?, ?)");
+    ComandoSql grava(db_, "INSERT OR REPLACE INTO partidas_guardadas VALUES (?, ?)");
     return grava.texto(1, dobraNome(nome)).texto(2, texto).feito() || falha("kept match");
 }
 
 void BancoDoJogo::esquecePartida(const std::string& nome) {
-    Comando tira(db_, "DELETE FROM partidas_guardadas WHERE jogador = ?");
+    ComandoSql tira(db_, "DELETE FROM partidas_guardadas WHERE jogador = ?");
     if (!tira.texto(1, dobraNome(nome)).feito()) falha("kept match");
 }
 
@@ -32,8 +32,8 @@ void BancoDoJogo::poePartidaDeLado(const std::string& nome, std::string_view tex
         falha("set aside");
         return;
     }
-    Comando poe(db_, "INSERT OR REPLACE INTO partidas_postas_de_lado VALUES (?, ?)");
-    Comando tira(db_, "DELETE FROM partidas_guardadas WHERE jogador = ?");
+    ComandoSql poe(db_, "INSERT OR REPLACE INTO partidas_postas_de_lado VALUES (?, ?)");
+    ComandoSql tira(db_, "DELETE FROM partidas_guardadas WHERE jogador = ?");
     if (!poe.texto(1, chave).texto(2, texto).feito() || !tira.texto(1, chave).feito() ||
         !executa("COMMIT")) {
         desfaz();
@@ -43,8 +43,9 @@ void BancoDoJogo::poePartidaDeLado(const std::string& nome, std::string_view tex
 
 bool BancoDoJogo::guardaRevisao(const std::string& chave, const PartidaDoHistorico& p,
                                 std::string_view maos) {
-    Comando poe(db_, "INSERT INTO revisoes (jogador, dia, nivel, venceu, ganhas, perdidas, maos) "
-                     "VALUES (?, ?, ?, ?, ?, ?, ?)");
+    ComandoSql poe(db_,
+                   "INSERT INTO revisoes (jogador, dia, nivel, venceu, ganhas, perdidas, maos) "
+                   "VALUES (?, ?, ?, ?, ?, ?, ?)");
     if (!poe.texto(1, chave)
              .numero(2, p.dia)
              .texto(3, std::string(1, dadosDoNivel(p.nivel).codigo) + (p.justa ? "j" : ""))
@@ -55,7 +56,8 @@ bool BancoDoJogo::guardaRevisao(const std::string& chave, const PartidaDoHistori
              .feito())
         return false;
     // The oldest go first: past the number kept, then past the size kept.
-    Comando conta(db_, "SELECT id, length(maos) FROM revisoes WHERE jogador = ? ORDER BY id DESC");
+    ComandoSql conta(db_,
+                     "SELECT id, length(maos) FROM revisoes WHERE jogador = ? ORDER BY id DESC");
     conta.texto(1, chave);
     std::size_t bytes = 0;
     int quantas = 0;
@@ -65,14 +67,14 @@ bool BancoDoJogo::guardaRevisao(const std::string& chave, const PartidaDoHistori
         if (++quantas > kRevisoesPorJogador || bytes > kBytesDeRevisaoPorJogador) break;
         ultima = conta.numeroDa(0);
     }
-    Comando tira(db_, "DELETE FROM revisoes WHERE jogador = ? AND id < ?");
+    ComandoSql tira(db_, "DELETE FROM revisoes WHERE jogador = ? AND id < ?");
     return tira.texto(1, chave).numero(2, ultima).feito();
 }
 
 std::vector<RevisaoDePartida> BancoDoJogo::revisoes(const std::string& nome) {
     std::vector<RevisaoDePartida> lista;
-    Comando le(db_, "SELECT id, dia, nivel, venceu, ganhas, perdidas, maos FROM revisoes "
-                    "WHERE jogador = ? ORDER BY id DESC LIMIT ?");
+    ComandoSql le(db_, "SELECT id, dia, nivel, venceu, ganhas, perdidas, maos FROM revisoes "
+                       "WHERE jogador = ? ORDER BY id DESC LIMIT ?");
     le.texto(1, dobraNome(nome)).numero(2, kRevisoesPorJogador);
     while (le.passo() == SQLITE_ROW) {
         const std::string_view nivel = le.textoDa(2);

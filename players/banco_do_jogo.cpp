@@ -83,7 +83,7 @@ BancoDoJogo::Abertura BancoDoJogo::abre(const std::string& arquivo) {
     };
     if (!executa("PRAGMA journal_mode=WAL") || !executa("PRAGMA synchronous=FULL")) return erro();
     {
-        Comando checa(db_, "PRAGMA quick_check");
+        ComandoSql checa(db_, "PRAGMA quick_check");
         const int passo = checa.passo();
         if (passo != SQLITE_ROW) return erro();
         if (checa.textoDa(0) != "ok") return Abertura::Danificado;
@@ -97,15 +97,15 @@ BancoDoJogo::Abertura BancoDoJogo::abre(const std::string& arquivo) {
                               "SELECT jogador, texto FROM partidas_postas_de_lado",
                               "SELECT id, jogador, dia, nivel, venceu, ganhas, perdidas, maos "
                               "FROM revisoes"})
-        if (Comando c(db_, forma); !c.preparado()) {
+        if (ComandoSql c(db_, forma); !c.preparado()) {
             desfaz();
             return Abertura::Danificado;
         }
-    Comando versao(db_, "SELECT max(numero), count(*) FROM versao");
+    ComandoSql versao(db_, "SELECT max(numero), count(*) FROM versao");
     if (versao.passo() != SQLITE_ROW) return erro();
     const long numero = versao.numeroDa(0), linhas = versao.numeroDa(1);
     if (linhas == 0) {
-        Comando poe(db_, "INSERT INTO versao (numero) VALUES (?)");
+        ComandoSql poe(db_, "INSERT INTO versao (numero) VALUES (?)");
         if (!poe.numero(1, kVersaoDoEsquema).feito()) return erro();
     } else if (numero != kVersaoDoEsquema) {
         desfaz();
@@ -137,14 +137,14 @@ bool BancoDoJogo::falha(const char* onde) {
 }
 
 std::optional<HistoricoDePartidas> BancoDoJogo::leDoBanco(const std::string& chave) {
-    Comando le(db_, "SELECT partidas, antigas FROM historicos WHERE jogador = ?");
+    ComandoSql le(db_, "SELECT partidas, antigas FROM historicos WHERE jogador = ?");
     le.texto(1, chave);
     if (le.passo() != SQLITE_ROW) return HistoricoDePartidas{};
     if (auto h = leHistorico(le.textoDa(0), le.textoDa(1))) return h;
     const std::string partidas(le.textoDa(0));
     const std::string antigas(le.textoDa(1));
     std::fprintf(stderr, "corvina: a damaged history of matches was set aside\n");
-    Comando tira(db_, "DELETE FROM historicos WHERE jogador = ?");
+    ComandoSql tira(db_, "DELETE FROM historicos WHERE jogador = ?");
     if (!guardaDanificado(chave, partidas, antigas) || !tira.texto(1, chave).feito())
         falha("set aside");
     return std::nullopt;
@@ -159,7 +159,7 @@ HistoricoDePartidas BancoDoJogo::historico(const std::string& nome) {
 
 bool BancoDoJogo::gravaHistorico(const std::string& chave, const HistoricoDePartidas& h) {
     const TextoDoHistorico t = escreveHistorico(h);
-    Comando grava(db_, "INSERT OR REPLACE INTO historicos VALUES (?, ?, ?)");
+    ComandoSql grava(db_, "INSERT OR REPLACE INTO historicos VALUES (?, ?, ?)");
     return grava.texto(1, chave).texto(2, t.partidas).texto(3, t.antigas).feito();
 }
 
@@ -178,7 +178,7 @@ void BancoDoJogo::zeraHistoricos(const std::vector<std::string>& nomes) {
         std::erase_if(fila_, [&](const PartidaNaFila& f) { return dobraNome(f.nome) == chave; });
         for (const char* sql : {"DELETE FROM historicos WHERE jogador = ?",
                                 "DELETE FROM historicos_danificados WHERE jogador = ?"}) {
-            Comando apaga(db_, sql);
+            ComandoSql apaga(db_, sql);
             ok = ok && apaga.texto(1, chave).feito();
         }
     }
@@ -198,12 +198,12 @@ long BancoDoJogo::registraPartida(const std::string& nome, const PartidaDoHistor
         bool ok = gravaHistorico(chave, h);
         if (ok && !maos.empty()) ok = guardaRevisao(chave, p, maos);
         if (ok) {
-            Comando tira(db_, "DELETE FROM partidas_guardadas WHERE jogador = ?");
+            ComandoSql tira(db_, "DELETE FROM partidas_guardadas WHERE jogador = ?");
             ok = tira.texto(1, chave).feito();
         }
         if (ok && recorde) {
-            Comando poe(db_, "INSERT INTO recordes_pendentes (nome, vitorias, derrotas, saldo) "
-                             "VALUES (?, ?, ?, ?)");
+            ComandoSql poe(db_, "INSERT INTO recordes_pendentes (nome, vitorias, derrotas, saldo) "
+                                "VALUES (?, ?, ?, ?)");
             ok = poe.texto(1, nome)
                      .numero(2, recorde->vitorias)
                      .numero(3, recorde->derrotas)
@@ -237,8 +237,8 @@ bool BancoDoJogo::salva() {
 
 std::vector<RecordePendente> BancoDoJogo::pendentes() {
     std::vector<RecordePendente> lista;
-    Comando le(db_, "SELECT id, nome, vitorias, derrotas, saldo FROM recordes_pendentes "
-                    "ORDER BY id");
+    ComandoSql le(db_, "SELECT id, nome, vitorias, derrotas, saldo FROM recordes_pendentes "
+                       "ORDER BY id");
     while (le.passo() == SQLITE_ROW) {
         RecordePendente r{le.numeroDa(0),
                           std::string(le.textoDa(1)),
@@ -254,7 +254,7 @@ std::vector<RecordePendente> BancoDoJogo::pendentes() {
 }
 
 void BancoDoJogo::concluiPendente(long id) {
-    Comando tira(db_, "DELETE FROM recordes_pendentes WHERE id = ?");
+    ComandoSql tira(db_, "DELETE FROM recordes_pendentes WHERE id = ?");
     if (!tira.numero(1, id).feito()) falha("record");
 }
 
@@ -262,7 +262,7 @@ bool BancoDoJogo::importaHistorico(const std::string& nome, std::string_view par
                                    std::string_view antigas) {
     const std::string chave = dobraNome(nome);
     if (!executa("BEGIN IMMEDIATE")) return falha("import");
-    Comando ha(db_, "SELECT 1 FROM historicos WHERE jogador = ?");
+    ComandoSql ha(db_, "SELECT 1 FROM historicos WHERE jogador = ?");
     const int tem = ha.texto(1, chave).passo();
     bool ok = tem == SQLITE_ROW || tem == SQLITE_DONE;
     if (ok && tem == SQLITE_DONE) {
@@ -282,7 +282,7 @@ bool BancoDoJogo::importaHistorico(const std::string& nome, std::string_view par
 
 bool BancoDoJogo::guardaDanificado(const std::string& nome, std::string_view partidas,
                                    std::string_view antigas) {
-    Comando guarda(db_, "INSERT OR REPLACE INTO historicos_danificados VALUES (?, ?, ?)");
+    ComandoSql guarda(db_, "INSERT OR REPLACE INTO historicos_danificados VALUES (?, ?, ?)");
     return guarda.texto(1, dobraNome(nome)).texto(2, partidas).texto(3, antigas).feito() ||
            falha("set aside");
 }

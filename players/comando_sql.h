@@ -8,20 +8,20 @@
 namespace corvina {
 
 // One prepared statement, finalized with its scope.
-class Comando {
+class ComandoSql {
   public:
-    Comando(sqlite3* db, const char* sql) {
+    ComandoSql(sqlite3* db, const char* sql) {
         if (db) sqlite3_prepare_v2(db, sql, -1, &st_, nullptr);
     }
-    ~Comando() { sqlite3_finalize(st_); }
-    Comando(const Comando&) = delete;
-    Comando& operator=(const Comando&) = delete;
+    ~ComandoSql() { sqlite3_finalize(st_); }
+    ComandoSql(const ComandoSql&) = delete;
+    ComandoSql& operator=(const ComandoSql&) = delete;
 
-    Comando& texto(int i, std::string_view t) {
+    ComandoSql& texto(int i, std::string_view t) {
         sqlite3_bind_text(st_, i, t.data(), static_cast<int>(t.size()), SQLITE_TRANSIENT);
         return *this;
     }
-    Comando& numero(int i, long n) {
+    ComandoSql& numero(int i, long n) {
         sqlite3_bind_int64(st_, i, n);
         return *this;
     }
