@@ -127,6 +127,9 @@ void VistaQt::partidaTerminada(const FimDaPartida& fim) {
     guardada_.clear(); // the database drops the kept match with the match's end
     registraFimDaPartida(settings_, banco_, fim,
                          diaDoHistorico(hoje.year(), hoje.month(), hoje.day()));
+    // Once more on its own, should the match's transaction have failed: a match that ended is
+    // never offered again.
+    banco_.esquecePartida(fim.nome);
 }
 
 bool VistaQt::partidaGuardada(const std::string& nome, PartidaGuardada& partida) {
