@@ -1,12 +1,11 @@
 #include "players/fim_da_partida.h"
 
-#include "machine/partida_em_texto.h"
-
 #include <map>
 #include <utility>
 
 #include "core/ajustes.h"
 #include "core/lote_de_ajustes.h"
+#include "machine/partida_em_texto.h"
 
 namespace corvina {
 

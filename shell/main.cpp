@@ -81,7 +81,8 @@ struct Programa {
         janelas.dono(&janela);
         janelas.imagens(&imagens);
         nivel.segue(jogo.modulo);
-        // The run ends with the window: no hand in progress is kept, nothing waits.
+        // The run ends with the window: the match under way was kept at its last rest, and
+        // nothing waits.
         janela.aoEncerrar([this] {
             settings.salva();
             banco.salva();

@@ -1,15 +1,13 @@
 #include "shell/vista_qt.h"
 
 #include <QDate>
+#include <QPointer>
 
+#include "core/ajustes.h"
 #include "core/partida_guardada.h"
 #include "machine/partida_em_texto.h"
 #include "players/fim_da_partida.h"
 #include "players/partida_para_retomar.h"
-
-#include <QPointer>
-
-#include "core/ajustes.h"
 #include "players/qt/caixa_do_sistema.h"
 
 namespace corvina {
