@@ -81,8 +81,7 @@ FrmEstatisticas::FrmEstatisticas(QWidget* dono, const Module1& modulo, Armazem& 
         revisao_ = comando(
             "Revisao", "<u>Revisão das últimas partidas</u>", QRect(16, 450, 240, 22),
             [this] {
-                const auto maos =
-                    maosDasRevisoes(historicos_.revisoes(jogador_->currentText().toStdString()));
+                const auto maos = maosDasRevisoes(revisoes_);
                 if (!maos.empty()) FrmRevisao(this, *imagens_, maos, 0).exec();
                 activateWindow(); // the keys come back here
             },
@@ -100,7 +99,11 @@ void FrmEstatisticas::mostra(const std::string& nome) {
     const HistoricoDePartidas h =
         nome.empty() ? HistoricoDePartidas{} : historicos_.historico(nome);
     const std::vector<LinhaDoQuadro> quadro = quadroDeEstatisticas(h);
-    if (revisao_) revisao_->habilita(!nome.empty() && !historicos_.revisoes(nome).empty());
+    if (revisao_) {
+        // Read once for the player shown: the command's state and the review both use it.
+        revisoes_ = nome.empty() ? std::vector<RevisaoDePartida>{} : historicos_.revisoes(nome);
+        revisao_->habilita(!revisoes_.empty());
+    }
     for (std::size_t r = 0; r < quadro.size() && r < valores_.size(); ++r)
         for (std::size_t i = 0; i < kColunasDoQuadro; ++i)
             valores_[r][i]->setText(QString::fromStdString(quadro[r].valores[i]));

@@ -40,6 +40,7 @@ class FrmEstatisticas : public JanelaDeFigura {
     QChartView* grafico_;
     const Imagens* imagens_;
     Comando* revisao_ = nullptr;
+    std::vector<RevisaoDePartida> revisoes_; // of the player shown
 };
 
 } // namespace corvina
